@@ -1,0 +1,24 @@
+# Compiler settings that every target of the project shares: warnings and sanitizers.
+
+function(velmo_compile_settings target)
+    target_compile_definitions(${target} PRIVATE QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+    if(MSVC)
+        target_compile_options(${target} PRIVATE /W4 /utf-8 /permissive-)
+        if(VELMO_WARNINGS_AS_ERRORS)
+            target_compile_options(${target} PRIVATE /WX)
+        endif()
+        return()
+    endif()
+
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual -Wunused
+        -Wdouble-promotion -Wformat=2)
+    if(VELMO_WARNINGS_AS_ERRORS)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
+    if(VELMO_SANITIZE)
+        target_compile_options(${target} PRIVATE -fsanitize=${VELMO_SANITIZE} -fno-omit-frame-pointer
+            -fno-sanitize-recover=all)
+        target_link_options(${target} PRIVATE -fsanitize=${VELMO_SANITIZE})
+    endif()
+endfunction()

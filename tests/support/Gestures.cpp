@@ -1,0 +1,68 @@
+#include "support/Gestures.h"
+
+#include <QCursor>
+#include <QTest>
+#include <QWidget>
+#include <QWindow>
+
+namespace {
+
+QWindow *windowOf(const QWidget *widget)
+{
+    return widget->window()->windowHandle();
+}
+
+QPoint middleInWindow(const QWidget *widget)
+{
+    return widget->mapTo(widget->window(), widget->rect().center());
+}
+
+} // namespace
+
+void Gestures::show(QWidget *window)
+{
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    QCoreApplication::processEvents();
+}
+
+void Gestures::hover(QWidget *widget, QPoint point)
+{
+    QCursor::setPos(widget->mapToGlobal(point));
+    QTest::mouseMove(windowOf(widget), widget->mapTo(widget->window(), point));
+    QCoreApplication::processEvents();
+}
+
+void Gestures::hover(QWidget *widget)
+{
+    hover(widget, widget->rect().center());
+}
+
+void Gestures::leave()
+{
+    QCursor::setPos(QPoint(-1, -1));
+    QCoreApplication::processEvents();
+}
+
+void Gestures::press(QWidget *widget, Qt::MouseButton button)
+{
+    hover(widget);
+    QTest::mousePress(windowOf(widget), button, {}, middleInWindow(widget));
+}
+
+void Gestures::release(QWidget *widget, Qt::MouseButton button)
+{
+    QTest::mouseRelease(windowOf(widget), button, {}, middleInWindow(widget));
+}
+
+void Gestures::click(QWidget *widget, Qt::MouseButton button)
+{
+    press(widget, button);
+    release(widget, button);
+}
+
+void Gestures::doubleClick(QWidget *widget, Qt::MouseButton button)
+{
+    hover(widget);
+    QTest::mouseDClick(windowOf(widget), button, {}, middleInWindow(widget));
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QPoint>
+#include <Qt>
+
+class QWidget;
+
+/// What a user does with the pointer, sent through the window so that the toolkit's own bookkeeping (widget under the
+/// pointer, enter and leave, the pressed widget) follows. Points are in the widget's coordinates.
+namespace Gestures {
+
+/// Shows @p window and waits until it is on screen.
+void show(QWidget *window);
+
+void hover(QWidget *widget, QPoint point);
+/// Over the middle of the widget.
+void hover(QWidget *widget);
+/// Moves the pointer out of every window.
+void leave();
+
+void press(QWidget *widget, Qt::MouseButton button = Qt::LeftButton);
+void release(QWidget *widget, Qt::MouseButton button = Qt::LeftButton);
+/// Press and release in the middle of the widget.
+void click(QWidget *widget, Qt::MouseButton button = Qt::LeftButton);
+/// The whole sequence of a double click: press, release, double click, release.
+void doubleClick(QWidget *widget, Qt::MouseButton button = Qt::LeftButton);
+
+} // namespace Gestures
