@@ -1,0 +1,58 @@
+#include "browser/SceneNameIndex.h"
+
+#include <algorithm>
+
+namespace {
+
+/// Folds case one code point at a time, as a case-insensitive comparison does. `QString::toCaseFolded` would also make
+/// "straße" and "strasse" the same.
+QString folded(const QString &name)
+{
+    QList<uint> characters = name.toUcs4();
+    for (uint &character : characters)
+        character = QChar::toCaseFolded(character);
+    return QString::fromUcs4(reinterpret_cast<const char32_t *>(characters.constData()), characters.size());
+}
+
+} // namespace
+
+void SceneNameIndex::append(const QString &name)
+{
+    const QString key = folded(name);
+    insert(int(m_keys.size()), key);
+    m_keys.append(key);
+}
+
+void SceneNameIndex::rename(int row, const QString &name)
+{
+    if (row < 0 || row >= m_keys.size())
+        return;
+    const QString key = folded(name);
+    if (m_keys[row] == key)
+        return;
+
+    const auto known = m_rows.find(m_keys[row]);
+    known->removeOne(row);
+    if (known->isEmpty())
+        m_rows.erase(known);
+    insert(row, key);
+    m_keys[row] = key;
+}
+
+void SceneNameIndex::clear()
+{
+    m_keys.clear();
+    m_rows.clear();
+}
+
+int SceneNameIndex::find(const QString &name) const
+{
+    const auto known = m_rows.constFind(folded(name));
+    return known == m_rows.constEnd() ? -1 : known->constFirst();
+}
+
+void SceneNameIndex::insert(int row, const QString &key)
+{
+    QList<int> &rows = m_rows[key];
+    rows.insert(std::lower_bound(rows.begin(), rows.end(), row), row);
+}

@@ -1,0 +1,297 @@
+#include "browser/VelmoSceneItem.h"
+
+#include "browser/AccessibleSceneItem.h"
+#include "foundation/AccessibleWidgets.h"
+#include "foundation/OvixSvgKey.h"
+#include "foundation/OvixSvgRenderer.h"
+#include "foundation/SheetOnChange.h"
+#include "ui_VelmoSceneItem.h"
+
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QListWidgetItem>
+#include <QToolTip>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int toggleColumnWidth = 18;
+constexpr int statusIconMargin = 4;
+
+QString rowSheet(const QString &border, const QString &background, const QString &text)
+{
+    // clang-format off
+    return u"#backgroundWidget {\tmargin:2px;%1\tborder-radius:3px;\tbackground-color:%2;\tcolor:%3;}"
+            "#backgroundWidget:disabled {\tbackground-color:rgb(59,59,59);\tborder-color:rgb(39,39,39);}"
+            "QLabel { \tcolor:%3; \tbackground-color:transparent;}"_s.arg(border, background, text);
+    // clang-format on
+}
+
+/// Gives the toggle its column before it has been painted for the first time.
+QPixmap toggleBeforeFirstPaint()
+{
+    OvixSvgKey key;
+    key.size = QSize(toggleColumnWidth, toggleColumnWidth);
+    key.layers = {{u":/Windows/SceneAddOff"_s, {}, {}}};
+    return OvixSvgRenderer::get(key);
+}
+
+} // namespace
+
+VelmoSceneItem::VelmoSceneItem(QListWidgetItem *item, QWidget *parent)
+    : QWidget(parent), m_ui(new Ui::VelmoSceneItem), m_item(item)
+{
+    AccessibleSceneItem::install();
+    m_ui->setupUi(this);
+    m_texts = {{
+        {m_ui->nameLabel, {}},
+        {m_ui->lastModifiedLabel, {}},
+        {m_ui->bakeLabel, {}},
+        {m_ui->actorsLabel, {}},
+        {m_ui->vehiclesLabel, {}},
+        {m_ui->timeFramerateLabel, {}},
+        {m_ui->versionLabel, {}},
+    }};
+    m_ui->nameEdit->hide();
+    m_ui->nameEdit->installEventFilter(this);
+    m_ui->addButton->setPixmap(toggleBeforeFirstPaint());
+    m_ui->addButton->setAccessibleName(tr("Choose scene"));
+    installEventFilter(this);
+    updateStyle();
+
+    connect(m_ui->addButton, &OvixSvgButton::clicked, this, &VelmoSceneItem::addTriggered);
+    connect(m_ui->nameLabel, &QClickableLabel::doubleClicked, this, &VelmoSceneItem::doubleClickNameTriggered);
+    connect(m_ui->statusLabel, &OvixSvgButton::doubleClicked, this, &VelmoSceneItem::doubleClickOtherTriggered);
+    // Single clicks go through to the list, which selects the row.
+    m_ui->statusLabel->setIgnoreSingleClick(true);
+    m_ui->statusLabel->setMargins(statusIconMargin);
+    for (const ElidedText &elided : m_texts) {
+        auto *label = static_cast<QClickableLabel *>(elided.label);
+        label->setIgnoreSingleClick(true);
+        label->installEventFilter(this);
+        if (label != m_ui->nameLabel)
+            connect(label, &QClickableLabel::doubleClicked, this, &VelmoSceneItem::doubleClickOtherTriggered);
+    }
+    watchEditionFinished();
+}
+
+VelmoSceneItem::~VelmoSceneItem() = default;
+
+void VelmoSceneItem::set(const QString &name, bool versionWarning, const QString &lastModified,
+                         const QString &bakeStatus, const QString &actorCount, const QString &vehicleCount,
+                         const QString &timeFramerate, const QString &version)
+{
+    setName(name);
+    m_ui->statusLabel->setFilename(versionWarning ? u":/Windows/Warning"_s : QString());
+    m_ui->statusLabel->setToolTip(versionWarning ? tr("Scene version warning tooltip.") : QString());
+    setText(m_ui->lastModifiedLabel, lastModified);
+    setText(m_ui->bakeLabel, bakeStatus);
+    setText(m_ui->actorsLabel, actorCount);
+    setText(m_ui->vehiclesLabel, vehicleCount);
+    setText(m_ui->timeFramerateLabel, timeFramerate);
+    setText(m_ui->versionLabel, version);
+}
+
+void VelmoSceneItem::setName(const QString &name)
+{
+    m_name = name;
+    setText(m_ui->nameLabel, name);
+    m_ui->nameLabel->setToolTip(name);
+    setAccessibleName(name);
+    if (m_item)
+        m_item->setData(Qt::AccessibleTextRole, name);
+}
+
+QString VelmoSceneItem::getName() const
+{
+    return m_name;
+}
+
+void VelmoSceneItem::setAddEnabled(bool enabled)
+{
+    m_addEnabled = enabled;
+    updateStyle();
+}
+
+bool VelmoSceneItem::isAddEnabled() const
+{
+    return m_addEnabled;
+}
+
+void VelmoSceneItem::setAddVisible(bool visible)
+{
+    m_ui->addButton->setVisible(visible);
+}
+
+bool VelmoSceneItem::isAddVisible() const
+{
+    return !m_ui->addButton->isHidden();
+}
+
+void VelmoSceneItem::setSelected(bool selected)
+{
+    m_selected = selected;
+    updateStyle();
+}
+
+bool VelmoSceneItem::isSelected() const
+{
+    return m_selected;
+}
+
+void VelmoSceneItem::setEditingEnabled(bool enabled)
+{
+    m_editingEnabled = enabled;
+}
+
+QListWidgetItem *VelmoSceneItem::getItem() const
+{
+    return m_item;
+}
+
+void VelmoSceneItem::setWidths(int status, int lastModified, int bake, int actors, int timeFramerate, int version)
+{
+    m_ui->statusLabel->setFixedWidth(status);
+    m_ui->lastModifiedLabel->setFixedWidth(lastModified);
+    m_ui->bakeLabel->setFixedWidth(bake);
+    m_ui->actorsLabel->setFixedWidth(actors);
+    m_ui->timeFramerateLabel->setFixedWidth(timeFramerate);
+    m_ui->versionLabel->setFixedWidth(version);
+}
+
+void VelmoSceneItem::updateStyle()
+{
+    QString background = u"rgb(39,39,39)"_s;
+    QString text = u"rgb(156,156,156)"_s;
+    if (m_selected || m_addEnabled) {
+        background = u"rgba(116, 211, 252,48)"_s;
+        text = u"rgb(116, 211, 252)"_s;
+    } else if (m_hovered) {
+        background = u"rgba(255,255,255,38)"_s;
+        text = u"rgb(255,255,255)"_s;
+    }
+    const QString border = m_addEnabled ? u"border:1px solid; border-color:rgb(22, 129, 189);"_s : QString();
+    setSheetOnChange(m_ui->backgroundWidget, rowSheet(border, background, text));
+    m_ui->addButton->setFilename(m_addEnabled ? u":/Windows/ToggleOnChecked"_s : u":/Windows/ToggleOff"_s);
+}
+
+void VelmoSceneItem::finishEditing()
+{
+    editionFinished();
+}
+
+void VelmoSceneItem::addTriggered()
+{
+    m_addEnabled = !m_addEnabled;
+    updateStyle();
+    AccessibleWidgets::announceChecked(this);
+    emit addChanged();
+}
+
+void VelmoSceneItem::renameTriggered()
+{
+    if (!m_editingEnabled)
+        return;
+    m_ui->nameLabel->hide();
+    m_ui->nameEdit->show();
+    m_ui->nameEdit->setText(m_name);
+    m_ui->nameEdit->selectAll();
+    m_ui->nameEdit->setFocus();
+}
+
+void VelmoSceneItem::doubleClickNameTriggered()
+{
+    if (!m_selected)
+        return;
+    if (m_editingEnabled)
+        renameTriggered();
+    else if (isAddVisible())
+        addTriggered();
+}
+
+void VelmoSceneItem::doubleClickOtherTriggered()
+{
+    if (m_selected && isAddVisible())
+        addTriggered();
+}
+
+void VelmoSceneItem::editionFinished()
+{
+    if (m_ui->nameEdit->isHidden())
+        return;
+    // Losing the focus would call for the end of the edit once more.
+    disconnect(m_ui->nameEdit, &QLineEdit::editingFinished, this, &VelmoSceneItem::editionFinished);
+    m_ui->nameEdit->clearFocus();
+    m_ui->nameEdit->hide();
+    m_ui->nameLabel->show();
+    watchEditionFinished();
+
+    const QString typed = m_ui->nameEdit->text();
+    if (typed != m_name)
+        emit renameRequested(m_name, typed);
+}
+
+bool VelmoSceneItem::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == this) {
+        if (event->type() == QEvent::Enter || event->type() == QEvent::Leave) {
+            m_hovered = event->type() == QEvent::Enter;
+            updateStyle();
+        }
+        return false;
+    }
+    if (watched == m_ui->nameEdit)
+        return event->type() == QEvent::KeyPress && handleEditKey(static_cast<QKeyEvent *>(event)->key());
+    if (event->type() == QEvent::Resize) {
+        for (const ElidedText &elided : m_texts) {
+            if (elided.label == watched)
+                showElided(elided);
+        }
+    }
+    if (watched == m_ui->nameLabel && event->type() == QEvent::ToolTip) {
+        showNameToolTip(static_cast<QHelpEvent *>(event)->globalPos());
+        return true;
+    }
+    return false;
+}
+
+void VelmoSceneItem::watchEditionFinished()
+{
+    connect(m_ui->nameEdit, &QLineEdit::editingFinished, this, &VelmoSceneItem::editionFinished, Qt::QueuedConnection);
+}
+
+void VelmoSceneItem::setText(QLabel *label, const QString &text)
+{
+    for (ElidedText &elided : m_texts) {
+        if (elided.label != label)
+            continue;
+        elided.text = text;
+        showElided(elided);
+    }
+}
+
+void VelmoSceneItem::showElided(const ElidedText &elided) const
+{
+    // The vehicles column has no width of its own: a long count must not push the others aside.
+    const int width = elided.label == m_ui->vehiclesLabel ? elided.label->minimumWidth() : elided.label->width();
+    const QString shown = elided.label->fontMetrics().elidedText(elided.text, Qt::ElideRight, width);
+    if (elided.label->text() != shown)
+        elided.label->setText(shown);
+}
+
+/// A name may look like markup; the tool tip shows it as typed.
+void VelmoSceneItem::showNameToolTip(const QPoint &globalPosition)
+{
+    QToolTip::showText(globalPosition, Qt::convertFromPlainText(m_name, Qt::WhiteSpaceNormal), m_ui->nameLabel);
+}
+
+/// Escape drops what has been typed. True when the key has been dealt with.
+bool VelmoSceneItem::handleEditKey(int key)
+{
+    if (key != Qt::Key_Escape)
+        return false;
+    m_ui->nameEdit->setText(m_name);
+    editionFinished();
+    return true;
+}

@@ -1,0 +1,293 @@
+#include "browser/VelmoScenesTable.h"
+
+#include "browser/SceneNameIndex.h"
+#include "browser/VelmoSceneItem.h"
+#include "foundation/OvixSvgButton.h"
+#include "ui_VelmoScenesTable.h"
+
+#include <QScrollBar>
+#include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int minimumRowHeight = 16;
+constexpr int newSceneButtonSize = 16;
+
+// clang-format off
+QString tableSheet()
+{
+    return u"QLabel {\tcolor:rgb(219,219,219);\tbackground-color:transparent;}"
+            "#backgroundWidget {\tborder-radius:4px;\tbackground-color:rgb(59,59,59);}"
+            "QListWidget {\tbackground-color:transparent;}"
+            "QListWidget::item {\tselection-background-color:transparent;}"_s;
+}
+
+QString scrollBarSheet()
+{
+    return u"QScrollBar:vertical {\twidth: 10px;\tbackground:rgb(59,59,59);   border-radius: 5px;}"
+            "QScrollBar::handle:vertical {\tbackground:rgb(81,81,81);\tmargin:2;\tmin-height: 20px;}"
+            "QScrollBar::handle:vertical:hover {\tbackground:rgb(116, 211, 252);}"
+            "QScrollBar::handle:vertical:disabled {\tbackground:rgb(59,59,59);}"_s;
+}
+// clang-format on
+
+} // namespace
+
+VelmoScenesTable::VelmoScenesTable(QWidget *parent)
+    : QWidget(parent), m_ui(new Ui::VelmoScenesTable), m_names(new SceneNameIndex)
+{
+    m_ui->setupUi(this);
+    connect(m_ui->listWidget, &QListWidget::itemSelectionChanged, this, &VelmoScenesTable::listSelectionChanged);
+    connect(m_ui->listWidget, &QListWidget::itemChanged, this, &VelmoScenesTable::updateNameOf);
+    setStyleSheet(tableSheet());
+    m_ui->listWidget->verticalScrollBar()->setStyleSheet(scrollBarSheet());
+}
+
+VelmoScenesTable::~VelmoScenesTable() = default;
+
+void VelmoScenesTable::addScene(const QString &name, bool versionWarning, const QString &lastModified,
+                                const QString &bakeStatus, const QString &actorCount, const QString &vehicleCount,
+                                const QString &timeFramerate, const QString &version, bool compatible)
+{
+    auto *item = new QListWidgetItem;
+    if (!compatible)
+        item->setFlags(item->flags() & ~Qt::ItemIsSelectable);
+    m_ui->listWidget->addItem(item);
+
+    auto *row = new VelmoSceneItem(item, m_ui->listWidget->viewport());
+    row->setEnabled(compatible);
+    row->set(name, versionWarning, lastModified, bakeStatus, actorCount, vehicleCount, timeFramerate, version);
+    row->setAddVisible(m_multiSelectionEnabled);
+    row->setEditingEnabled(m_editingEnabled);
+    row->setToolTip(compatible ? QString() : tr("Scene not compatible for merge tooltip."));
+    row->setMinimumHeight(minimumRowHeight);
+    connect(row, &VelmoSceneItem::renameRequested, this, &VelmoScenesTable::renameRequested);
+
+    item->setSizeHint(QSize(0, std::max(row->height(), minimumRowHeight)));
+    m_ui->listWidget->setItemWidget(item, row);
+    m_rows.append(row);
+    m_names->append(name);
+    resizeItem(row);
+    fixNewSceneItem();
+}
+
+void VelmoScenesTable::clearScenes()
+{
+    disconnect(m_ui->listWidget, &QListWidget::itemSelectionChanged, this, &VelmoScenesTable::listSelectionChanged);
+    // A row may be the sender of the signal that has led here.
+    for (VelmoSceneItem *row : std::as_const(m_rows)) {
+        disconnect(row, nullptr, this, nullptr);
+        row->m_item = nullptr;
+        row->deleteLater();
+    }
+    m_rows.clear();
+    m_names->clear();
+    removeNewSceneItem();
+    m_ui->listWidget->clear();
+    fixNewSceneItem();
+    connect(m_ui->listWidget, &QListWidget::itemSelectionChanged, this, &VelmoScenesTable::listSelectionChanged);
+}
+
+void VelmoScenesTable::renameScene(const QString &oldName, const QString &newName)
+{
+    if (VelmoSceneItem *row = findRow(oldName))
+        row->setName(newName);
+}
+
+bool VelmoScenesTable::hasScene(const QString &name) const
+{
+    return findRow(name) != nullptr;
+}
+
+int VelmoScenesTable::getSceneCount() const
+{
+    return int(m_rows.size());
+}
+
+void VelmoScenesTable::setSceneEnabled(const QString &name, bool enabled)
+{
+    if (VelmoSceneItem *row = findRow(name))
+        row->setAddEnabled(enabled);
+}
+
+bool VelmoScenesTable::isSceneEnabled(const QString &name) const
+{
+    const VelmoSceneItem *row = findRow(name);
+    return row && row->isAddEnabled();
+}
+
+QStringList VelmoScenesTable::getEnabledScenes() const
+{
+    QStringList names;
+    for (const VelmoSceneItem *row : m_rows) {
+        if (row->isAddEnabled())
+            names << row->getName();
+    }
+    return names;
+}
+
+QString VelmoScenesTable::getSelectedScene() const
+{
+    const int row = getSelectedRow();
+    return row < 0 ? QString() : m_rows[row]->getName();
+}
+
+void VelmoScenesTable::setSelectedScene(const QString &name)
+{
+    clearSelection();
+    if (VelmoSceneItem *row = findRow(name))
+        select(row);
+    else
+        setDefaultSelection();
+}
+
+int VelmoScenesTable::getSelectedRow() const
+{
+    const QList<QListWidgetItem *> items = m_ui->listWidget->selectedItems();
+    for (const QListWidgetItem *item : items) {
+        if (rowOf(item))
+            return m_ui->listWidget->row(item);
+    }
+    return -1;
+}
+
+void VelmoScenesTable::setSelectedRow(int row)
+{
+    clearSelection();
+    const int existing = std::min(row, getSceneCount() - 1);
+    if (existing >= 0)
+        select(m_rows[existing]);
+}
+
+void VelmoScenesTable::setDefaultSelection()
+{
+    clearSelection();
+    if (m_rows.isEmpty())
+        return;
+    const auto chosen = std::find_if(m_rows.cbegin(), m_rows.cend(), std::mem_fn(&VelmoSceneItem::isAddEnabled));
+    select(chosen == m_rows.cend() ? m_rows.constFirst() : *chosen);
+}
+
+void VelmoScenesTable::clearSelection()
+{
+    m_ui->listWidget->clearSelection();
+}
+
+void VelmoScenesTable::setEditingEnabled(bool enabled)
+{
+    m_editingEnabled = enabled;
+    for (VelmoSceneItem *row : std::as_const(m_rows))
+        row->setEditingEnabled(enabled);
+    fixNewSceneItem();
+}
+
+void VelmoScenesTable::setMultiSelectionEnabled(bool enabled)
+{
+    m_multiSelectionEnabled = enabled;
+    m_ui->addLabel->setVisible(enabled);
+    for (VelmoSceneItem *row : std::as_const(m_rows))
+        row->setAddVisible(enabled);
+}
+
+bool VelmoScenesTable::isMultiSelectionEnabled() const
+{
+    return m_multiSelectionEnabled;
+}
+
+void VelmoScenesTable::finishEditing()
+{
+    for (VelmoSceneItem *row : std::as_const(m_rows)) {
+        disconnect(row, &VelmoSceneItem::renameRequested, this, &VelmoScenesTable::renameRequested);
+        row->finishEditing();
+        connect(row, &VelmoSceneItem::renameRequested, this, &VelmoScenesTable::renameRequested);
+    }
+}
+
+void VelmoScenesTable::listSelectionChanged()
+{
+    const QList<QListWidgetItem *> items = m_ui->listWidget->selectedItems();
+    const QSet<QListWidgetItem *> selected(items.cbegin(), items.cend());
+    // Restyling a row costs far more than looking at it.
+    for (VelmoSceneItem *row : std::as_const(m_rows)) {
+        const bool isSelected = selected.contains(row->getItem());
+        if (row->isSelected() != isSelected)
+            row->setSelected(isSelected);
+    }
+    emit selectionChanged();
+}
+
+void VelmoScenesTable::resize()
+{
+    for (VelmoSceneItem *row : std::as_const(m_rows))
+        resizeItem(row);
+}
+
+void VelmoScenesTable::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    resize();
+}
+
+VelmoSceneItem *VelmoScenesTable::findRow(const QString &name) const
+{
+    const int row = m_names->find(name);
+    return row < 0 ? nullptr : m_rows[row];
+}
+
+/// The scene rows are the list's first rows.
+VelmoSceneItem *VelmoScenesTable::rowOf(const QListWidgetItem *item) const
+{
+    const int row = m_ui->listWidget->row(item);
+    return row >= 0 && row < m_rows.size() ? m_rows[row] : nullptr;
+}
+
+void VelmoScenesTable::resizeItem(VelmoSceneItem *row) const
+{
+    row->setWidths(m_ui->statusLabel->width(), m_ui->lastModifiedLabel->width(), m_ui->bakeLabel->width(),
+                   m_ui->actorsLabel->width(), m_ui->timeFramerateLabel->width(), m_ui->versionLabel->width());
+}
+
+/// The list deletes the button later: its own click may have led here.
+void VelmoScenesTable::removeNewSceneItem()
+{
+    delete m_newSceneItem;
+    m_newSceneItem = nullptr;
+}
+
+void VelmoScenesTable::fixNewSceneItem()
+{
+    removeNewSceneItem();
+    if (!m_editingEnabled)
+        return;
+
+    m_newSceneItem = new QListWidgetItem;
+    m_newSceneItem->setFlags(m_newSceneItem->flags() & ~Qt::ItemIsSelectable);
+    m_ui->listWidget->addItem(m_newSceneItem);
+
+    auto *button = new OvixSvgButton(m_ui->listWidget->viewport());
+    button->setMinimumSize(newSceneButtonSize, newSceneButtonSize);
+    button->setMaximumHeight(newSceneButtonSize);
+    button->setFilename(u":/Windows/AddButton"_s);
+    button->setFilenameInverted(u":/Windows/AddButtonChecked"_s);
+    button->setInvertOnHover(true);
+    button->setAccessibleName(tr("New scene"));
+    connect(button, &OvixSvgButton::clicked, this, &VelmoScenesTable::newScenePressed);
+    m_newSceneItem->setSizeHint(QSize(0, button->height()));
+    m_ui->listWidget->setItemWidget(m_newSceneItem, button);
+}
+
+void VelmoScenesTable::select(VelmoSceneItem *row)
+{
+    m_ui->listWidget->setCurrentItem(row->getItem());
+    m_ui->listWidget->scrollToItem(row->getItem(), QAbstractItemView::PositionAtCenter);
+}
+
+void VelmoScenesTable::updateNameOf(QListWidgetItem *item)
+{
+    if (const VelmoSceneItem *row = rowOf(item))
+        m_names->rename(m_ui->listWidget->row(item), row->getName());
+}

@@ -1,0 +1,33 @@
+#include "foundation/AccessiblePressable.h"
+
+#include <QWidget>
+
+AccessiblePressable::AccessiblePressable(QWidget *widget, QAccessible::Role role) : QAccessibleWidget(widget, role)
+{ }
+
+QString AccessiblePressable::text(QAccessible::Text kind) const
+{
+    if (kind != QAccessible::Name)
+        return QAccessibleWidget::text(kind);
+    if (!widget()->accessibleName().isEmpty())
+        return widget()->accessibleName();
+    if (!widget()->toolTip().isEmpty())
+        return widget()->toolTip();
+    return purpose();
+}
+
+QStringList AccessiblePressable::actionNames() const
+{
+    QStringList names;
+    if (widget()->isEnabled())
+        names << pressAction();
+    return names + QAccessibleWidget::actionNames();
+}
+
+void AccessiblePressable::doAction(const QString &action)
+{
+    if (action != pressAction())
+        QAccessibleWidget::doAction(action);
+    else if (widget()->isEnabled())
+        press();
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QAccessibleWidget>
+
+/// A widget that can be pressed, as assistive tools see it. Its name is the accessible name, else the tool tip, else
+/// what the widget says of its purpose.
+class AccessiblePressable : public QAccessibleWidget
+{
+public:
+    AccessiblePressable(QWidget *widget, QAccessible::Role role);
+
+    QString text(QAccessible::Text kind) const override;
+    QStringList actionNames() const override;
+    void doAction(const QString &action) override;
+
+protected:
+    /// What the widget is for, where nobody has given it a name.
+    virtual QString purpose() const = 0;
+    /// Does what a click does.
+    virtual void press() = 0;
+};

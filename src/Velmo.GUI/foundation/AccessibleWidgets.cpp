@@ -1,0 +1,140 @@
+#include "foundation/AccessibleWidgets.h"
+
+#include "foundation/AccessiblePressable.h"
+#include "foundation/OvixSvgButton.h"
+#include "foundation/QClickableLabel.h"
+#include "foundation/QClickableWidget.h"
+
+#include <QHash>
+
+namespace {
+
+QHash<QString, AccessibleWidgets::Creator> &creators()
+{
+    static QHash<QString, AccessibleWidgets::Creator> table;
+    return table;
+}
+
+QAccessibleInterface *create(const QString &className, QObject *object)
+{
+    const AccessibleWidgets::Creator creator = creators().value(className);
+    auto *widget = qobject_cast<QWidget *>(object);
+    return creator && widget ? creator(widget) : nullptr;
+}
+
+/// "Clear cross" for ":/Windows/ClearCross".
+QString wordsOf(const QString &filename)
+{
+    QString words;
+    const QString name = filename.section(u'/', -1).section(u'.', 0, 0);
+    for (const QChar character : name) {
+        if (character.isUpper() && !words.isEmpty())
+            words += u' ' + character.toLower();
+        else
+            words += character;
+    }
+    return words;
+}
+
+class AccessibleIcon : public QAccessibleWidget
+{
+public:
+    explicit AccessibleIcon(QWidget *widget) : QAccessibleWidget(widget, QAccessible::Graphic) { }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        const QString text = QAccessibleWidget::text(kind);
+        return kind == QAccessible::Name && text.isEmpty() ? widget()->toolTip() : text;
+    }
+};
+
+class AccessibleIconButton : public AccessiblePressable
+{
+public:
+    explicit AccessibleIconButton(QWidget *widget)
+        : AccessiblePressable(
+            widget, static_cast<OvixSvgButton *>(widget)->isCheckable() ? QAccessible::CheckBox : QAccessible::Button)
+    { }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = AccessiblePressable::state();
+        state.checkable = button()->isCheckable();
+        state.checked = button()->isChecked();
+        return state;
+    }
+
+protected:
+    QString purpose() const override { return wordsOf(button()->firstFilename()); }
+    void press() override { button()->click(); }
+
+private:
+    OvixSvgButton *button() const { return static_cast<OvixSvgButton *>(widget()); }
+};
+
+class AccessibleClickableLabel : public AccessiblePressable
+{
+public:
+    explicit AccessibleClickableLabel(QWidget *widget) : AccessiblePressable(widget, QAccessible::Button) { }
+
+protected:
+    QString purpose() const override { return label()->text(); }
+    void press() override { label()->click(); }
+
+private:
+    QClickableLabel *label() const { return static_cast<QClickableLabel *>(widget()); }
+};
+
+class AccessibleClickableWidget : public AccessiblePressable
+{
+public:
+    explicit AccessibleClickableWidget(QWidget *widget) : AccessiblePressable(widget, QAccessible::Button) { }
+
+protected:
+    /// What is written on it.
+    QString purpose() const override
+    {
+        const QList<QLabel *> labels = widget()->findChildren<QLabel *>();
+        for (const QLabel *label : labels) {
+            if (!label->text().isEmpty())
+                return label->text();
+        }
+        return {};
+    }
+    void press() override { static_cast<QClickableWidget *>(widget())->click(); }
+};
+
+template <class Interface> QAccessibleInterface *make(QWidget *widget)
+{
+    return new Interface(widget);
+}
+
+} // namespace
+
+void AccessibleWidgets::install()
+{
+    static const bool installed = [] {
+        add("OvixSvgLabel", make<AccessibleIcon>);
+        add("OvixSvgButton", make<AccessibleIconButton>);
+        add("QClickableLabel", make<AccessibleClickableLabel>);
+        add("QClickableWidget", make<AccessibleClickableWidget>);
+        QAccessible::installFactory(create);
+        return true;
+    }();
+    Q_UNUSED(installed)
+}
+
+void AccessibleWidgets::add(const char *className, Creator creator)
+{
+    creators().insert(QString::fromLatin1(className), creator);
+}
+
+void AccessibleWidgets::announceChecked(QWidget *widget)
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(widget, changed);
+    QAccessible::updateAccessibility(&event);
+}

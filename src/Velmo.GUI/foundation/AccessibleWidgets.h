@@ -1,0 +1,20 @@
+#pragma once
+
+class QAccessibleInterface;
+class QWidget;
+
+/// What assistive tools are told about the library's own widgets. One factory for all of them.
+namespace AccessibleWidgets {
+
+using Creator = QAccessibleInterface *(*)(QWidget *widget);
+
+/// Puts the factory in place, once; every class that it knows calls this when it is constructed.
+void install();
+
+/// Makes the factory use @p create for the class of this name and those derived from it.
+void add(const char *className, Creator create);
+
+/// Tells assistive tools that the widget's checked state has changed.
+void announceChecked(QWidget *widget);
+
+} // namespace AccessibleWidgets

@@ -1,0 +1,33 @@
+#include "foundation/KeyboardPress.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QWidget>
+
+namespace {
+
+const QColor ringColour(116, 211, 252);
+constexpr qreal ringWidth = 1.0;
+constexpr qreal ringRadius = 3.0;
+
+} // namespace
+
+bool isPressKey(const QWidget *widget, const QKeyEvent *event)
+{
+    if (widget->focusPolicy() == Qt::NoFocus || event->isAutoRepeat())
+        return false;
+    if ((event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier)
+        return false;
+    return event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+}
+
+void paintFocusRing(QWidget *widget)
+{
+    if (!widget->hasFocus())
+        return;
+    QPainter painter(widget);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(ringColour, ringWidth));
+    const qreal inset = ringWidth / 2;
+    painter.drawRoundedRect(QRectF(widget->rect()).adjusted(inset, inset, -inset, -inset), ringRadius, ringRadius);
+}
