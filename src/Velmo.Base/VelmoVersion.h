@@ -12,7 +12,7 @@
 class VELMO_BASE_EXPORT VelmoVersion
 {
 public:
-    /// The default version: no number at all, older than every other, written as an empty text.
+    /// The default version: no number at all, as old as 0, written as an empty text.
     VelmoVersion() = default;
     explicit VelmoVersion(const QString &text);
 

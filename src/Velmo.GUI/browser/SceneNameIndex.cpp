@@ -8,10 +8,16 @@ namespace {
 /// "straße" and "strasse" the same.
 QString folded(const QString &name)
 {
-    QList<uint> characters = name.toUcs4();
-    for (uint &character : characters)
-        character = QChar::toCaseFolded(character);
-    return QString::fromUcs4(reinterpret_cast<const char32_t *>(characters.constData()), characters.size());
+    QString key;
+    key.reserve(name.size());
+    for (qsizetype i = 0; i < name.size(); ++i) {
+        const QChar unit = name[i];
+        if (unit.isHighSurrogate() && i + 1 < name.size() && name[i + 1].isLowSurrogate())
+            key += QChar::fromUcs4(QChar::toCaseFolded(QChar::surrogateToUcs4(unit, name[++i])));
+        else
+            key += unit.toCaseFolded(); // half a pair stays what it is
+    }
+    return key;
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "foundation/OvixSvgKey.h"
 #include "foundation/OvixSvgRenderer.h"
 #include "foundation/SheetOnChange.h"
+#include "foundation/VelmoPalette.h"
 #include "ui_VelmoSceneItem.h"
 
 #include <QHelpEvent>
@@ -12,12 +13,16 @@
 #include <QListWidgetItem>
 #include <QToolTip>
 
+#include <algorithm>
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int toggleColumnWidth = 18;
 constexpr int statusIconMargin = 4;
+constexpr int elisionLimit = 2000; // characters; no column shows as many
 
 QString rowSheet(const QString &border, const QString &background, const QString &text)
 {
@@ -26,6 +31,27 @@ QString rowSheet(const QString &border, const QString &background, const QString
             "#backgroundWidget:disabled {\tbackground-color:rgb(59,59,59);\tborder-color:rgb(39,39,39);}"
             "QLabel { \tcolor:%3; \tbackground-color:transparent;}"_s.arg(border, background, text);
     // clang-format on
+}
+
+/// An icon label keeps its last picture when it loses its files, so it is given an empty one first.
+void showWarning(OvixSvgButton *label, bool warns)
+{
+    if (!warns && label->hasFilenames()) {
+        label->setFilenames({QString()});
+        label->paintEventUpdate();
+    }
+    label->setFilename(warns ? u":/Windows/Warning"_s : QString());
+}
+
+/// The text on one line, with an ellipsis where it does not fit. Looks no further into the text than there can be room
+/// for: a file can hold texts of any length.
+QString elidedText(const QFontMetrics &metrics, const QString &text, int width)
+{
+    const bool isCut = text.size() > elisionLimit;
+    QString line = isCut ? text.left(elisionLimit) + u'\u2026' : text;
+    for (const QChar lineBreak : {u'\n', u'\r', u'\u2028', u'\u2029'})
+        line.replace(lineBreak, u' ');
+    return metrics.elidedText(line, Qt::ElideRight, width);
 }
 
 /// Gives the toggle its column before it has been painted for the first time.
@@ -54,6 +80,7 @@ VelmoSceneItem::VelmoSceneItem(QListWidgetItem *item, QWidget *parent)
         {m_ui->versionLabel, {}},
     }};
     m_ui->nameEdit->hide();
+    m_ui->nameEdit->setMaxLength(std::numeric_limits<int>::max()); // a shortened name would count as another one
     m_ui->nameEdit->installEventFilter(this);
     m_ui->addButton->setPixmap(toggleBeforeFirstPaint());
     m_ui->addButton->setAccessibleName(tr("Choose scene"));
@@ -83,7 +110,7 @@ void VelmoSceneItem::set(const QString &name, bool versionWarning, const QString
                          const QString &timeFramerate, const QString &version)
 {
     setName(name);
-    m_ui->statusLabel->setFilename(versionWarning ? u":/Windows/Warning"_s : QString());
+    showWarning(m_ui->statusLabel, versionWarning);
     m_ui->statusLabel->setToolTip(versionWarning ? tr("Scene version warning tooltip.") : QString());
     setText(m_ui->lastModifiedLabel, lastModified);
     setText(m_ui->bakeLabel, bakeStatus);
@@ -110,8 +137,11 @@ QString VelmoSceneItem::getName() const
 
 void VelmoSceneItem::setAddEnabled(bool enabled)
 {
+    const bool changed = m_addEnabled != enabled;
     m_addEnabled = enabled;
     updateStyle();
+    if (changed)
+        AccessibleWidgets::announceChecked(this);
 }
 
 bool VelmoSceneItem::isAddEnabled() const
@@ -152,24 +182,27 @@ QListWidgetItem *VelmoSceneItem::getItem() const
 
 void VelmoSceneItem::setWidths(int status, int lastModified, int bake, int actors, int timeFramerate, int version)
 {
-    m_ui->statusLabel->setFixedWidth(status);
-    m_ui->lastModifiedLabel->setFixedWidth(lastModified);
-    m_ui->bakeLabel->setFixedWidth(bake);
-    m_ui->actorsLabel->setFixedWidth(actors);
-    m_ui->timeFramerateLabel->setFixedWidth(timeFramerate);
-    m_ui->versionLabel->setFixedWidth(version);
+    const auto fixWidth = [](QWidget *label, int width) {
+        label->setFixedWidth(std::clamp(width, 0, QWIDGETSIZE_MAX));
+    };
+    fixWidth(m_ui->statusLabel, status);
+    fixWidth(m_ui->lastModifiedLabel, lastModified);
+    fixWidth(m_ui->bakeLabel, bake);
+    fixWidth(m_ui->actorsLabel, actors);
+    fixWidth(m_ui->timeFramerateLabel, timeFramerate);
+    fixWidth(m_ui->versionLabel, version);
 }
 
 void VelmoSceneItem::updateStyle()
 {
-    QString background = u"rgb(39,39,39)"_s;
-    QString text = u"rgb(156,156,156)"_s;
+    QLatin1String background = VelmoPalette::background;
+    QLatin1String text = VelmoPalette::secondaryText;
     if (m_selected || m_addEnabled) {
-        background = u"rgba(116, 211, 252,48)"_s;
-        text = u"rgb(116, 211, 252)"_s;
+        background = VelmoPalette::accentTranslucent;
+        text = VelmoPalette::accent;
     } else if (m_hovered) {
-        background = u"rgba(255,255,255,38)"_s;
-        text = u"rgb(255,255,255)"_s;
+        background = VelmoPalette::hover;
+        text = VelmoPalette::white;
     }
     const QString border = m_addEnabled ? u"border:1px solid; border-color:rgb(22, 129, 189);"_s : QString();
     setSheetOnChange(m_ui->backgroundWidget, rowSheet(border, background, text));
@@ -218,7 +251,7 @@ void VelmoSceneItem::doubleClickOtherTriggered()
 
 void VelmoSceneItem::editionFinished()
 {
-    if (m_ui->nameEdit->isHidden())
+    if (!m_ui->nameEdit->isVisible())
         return;
     // Losing the focus would call for the end of the edit once more.
     disconnect(m_ui->nameEdit, &QLineEdit::editingFinished, this, &VelmoSceneItem::editionFinished);
@@ -243,13 +276,13 @@ bool VelmoSceneItem::eventFilter(QObject *watched, QEvent *event)
     }
     if (watched == m_ui->nameEdit)
         return event->type() == QEvent::KeyPress && handleEditKey(static_cast<QKeyEvent *>(event)->key());
-    if (event->type() == QEvent::Resize) {
+    if (event->type() == QEvent::Resize || event->type() == QEvent::FontChange) {
         for (const ElidedText &elided : m_texts) {
             if (elided.label == watched)
                 showElided(elided);
         }
     }
-    if (watched == m_ui->nameLabel && event->type() == QEvent::ToolTip) {
+    if (watched == m_ui->nameLabel && event->type() == QEvent::ToolTip && !m_name.isEmpty()) {
         showNameToolTip(static_cast<QHelpEvent *>(event)->globalPos());
         return true;
     }
@@ -267,6 +300,7 @@ void VelmoSceneItem::setText(QLabel *label, const QString &text)
         if (elided.label != label)
             continue;
         elided.text = text;
+        label->setAccessibleName(text);
         showElided(elided);
     }
 }
@@ -274,8 +308,9 @@ void VelmoSceneItem::setText(QLabel *label, const QString &text)
 void VelmoSceneItem::showElided(const ElidedText &elided) const
 {
     // The vehicles column has no width of its own: a long count must not push the others aside.
-    const int width = elided.label == m_ui->vehiclesLabel ? elided.label->minimumWidth() : elided.label->width();
-    const QString shown = elided.label->fontMetrics().elidedText(elided.text, Qt::ElideRight, width);
+    const int column = elided.label == m_ui->vehiclesLabel ? elided.label->minimumWidth() : elided.label->width();
+    const int width = column - std::max(elided.label->indent(), 0);
+    const QString shown = elidedText(elided.label->fontMetrics(), elided.text, width);
     if (elided.label->text() != shown)
         elided.label->setText(shown);
 }
@@ -283,15 +318,25 @@ void VelmoSceneItem::showElided(const ElidedText &elided) const
 /// A name may look like markup; the tool tip shows it as typed.
 void VelmoSceneItem::showNameToolTip(const QPoint &globalPosition)
 {
-    QToolTip::showText(globalPosition, Qt::convertFromPlainText(m_name, Qt::WhiteSpaceNormal), m_ui->nameLabel);
+    const QString shown = u"<p style='white-space:pre-wrap'>%1</p>"_s.arg(m_name.toHtmlEscaped());
+    QToolTip::showText(globalPosition, shown, m_ui->nameLabel);
 }
 
-/// Escape drops what has been typed. True when the key has been dealt with.
+/// Escape drops what has been typed. Keys that a line does not use stay away from the list, which would select another
+/// row. True when the key has been dealt with.
 bool VelmoSceneItem::handleEditKey(int key)
 {
-    if (key != Qt::Key_Escape)
+    switch (key) {
+    case Qt::Key_Escape:
+        m_ui->nameEdit->setText(m_name);
+        editionFinished();
+        return true;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        return true;
+    default:
         return false;
-    m_ui->nameEdit->setText(m_name);
-    editionFinished();
-    return true;
+    }
 }

@@ -25,7 +25,7 @@ class VELMO_GUI_EXPORT VelmoSceneItem : public QWidget
     Q_OBJECT
 
 public:
-    /// @p item is the list item that hosts the row; it may be null.
+    /// @p item is the list item that hosts the row; it may be null. A row whose item has gone may only be deleted.
     explicit VelmoSceneItem(QListWidgetItem *item, QWidget *parent = nullptr);
     ~VelmoSceneItem() override;
 

@@ -73,7 +73,7 @@ Token readRoot(QXmlStreamReader &reader, VelmoSceneMetadataParser &metadata)
         } else if (reader.name() == metadataName) {
             takeMetadata(reader.attributes(), metadata);
             skipElement(reader);
-            // The token behind the metadata is dropped unseen, white space as a rule; existing readers agree on it.
+            // On purpose: the token behind the metadata, white space as a rule, is dropped unseen.
             token = reader.readNext();
         } else {
             token = skipElement(reader);

@@ -8,7 +8,7 @@
 /// The facts about one scene that a list of scenes shows, read from the scene's file without loading the scene.
 ///
 /// A scene file is an XML document with the root element "VelmoSerializer". A child "scenemetadata" of the root carries
-/// the facts as attributes; everything else is skipped in constant stack and memory, at the speed of the XML reader.
+/// the facts as attributes; everything else is skipped, however large and deep, at the speed of the XML reader.
 /// Every attribute is optional. One that is missing or empty leaves its field as it was, and so does a file that cannot
 /// be read: start from withDefaults(). Where the metadata element comes several times, the last value of each field
 /// holds. What stood in front of the place where a broken file breaks is kept.
@@ -39,8 +39,9 @@ public:
     /// Reads the file at @p path into the fields and shows the warning, if there is one; true for a scene file.
     ///
     /// For the GUI thread: it blocks while the file is read, and again until the user has closed the warning. A file
-    /// that cannot be opened (no permission, a folder, a pipe, a device) and one that fails while it is read are
-    /// reported; a missing file, a malformed one and one with another root give false without a word.
+    /// that cannot be opened (no permission, a folder, a pipe, a device) is reported, and so is a device that fails
+    /// behind a whole document; a missing file, a malformed or cut one and one with another root give false without a
+    /// word.
     bool parse(const QString &path);
 
     /// The first half of parse(): reads the file at @p path into the fields and shows nothing. Safe in any thread, as

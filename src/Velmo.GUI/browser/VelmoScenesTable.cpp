@@ -7,8 +7,11 @@
 
 #include <QScrollBar>
 #include <QSet>
+#include <QSignalBlocker>
 
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -68,7 +71,7 @@ void VelmoScenesTable::addScene(const QString &name, bool versionWarning, const 
     connect(row, &VelmoSceneItem::renameRequested, this, &VelmoScenesTable::renameRequested);
 
     item->setSizeHint(QSize(0, std::max(row->height(), minimumRowHeight)));
-    m_ui->listWidget->setItemWidget(item, row);
+    m_ui->listWidget->setRowWidget(item, row);
     m_rows.append(row);
     m_names->append(name);
     resizeItem(row);
@@ -200,7 +203,8 @@ bool VelmoScenesTable::isMultiSelectionEnabled() const
 
 void VelmoScenesTable::finishEditing()
 {
-    for (VelmoSceneItem *row : std::as_const(m_rows)) {
+    const QList<VelmoSceneItem *> rows = m_rows; // the application may answer the loss of focus
+    for (VelmoSceneItem *row : rows) {
         disconnect(row, &VelmoSceneItem::renameRequested, this, &VelmoScenesTable::renameRequested);
         row->finishEditing();
         connect(row, &VelmoSceneItem::renameRequested, this, &VelmoScenesTable::renameRequested);
@@ -232,6 +236,15 @@ void VelmoScenesTable::resizeEvent(QResizeEvent *event)
     resize();
 }
 
+/// The middle of a list that has not been shown yet is not known.
+void VelmoScenesTable::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    const int row = getSelectedRow();
+    if (std::exchange(m_centreWhenShown, false) && row >= 0)
+        m_ui->listWidget->scrollToItem(m_rows[row]->getItem(), QAbstractItemView::PositionAtCenter);
+}
+
 VelmoSceneItem *VelmoScenesTable::findRow(const QString &name) const
 {
     const int row = m_names->find(name);
@@ -254,36 +267,47 @@ void VelmoScenesTable::resizeItem(VelmoSceneItem *row) const
 /// The list deletes the button later: its own click may have led here.
 void VelmoScenesTable::removeNewSceneItem()
 {
-    delete m_newSceneItem;
-    m_newSceneItem = nullptr;
+    delete std::exchange(m_newSceneItem, nullptr);
 }
 
+/// The list selects another row when the add button's was its current one; the application hears of it when the rows
+/// are whole again.
 void VelmoScenesTable::fixNewSceneItem()
 {
-    removeNewSceneItem();
-    if (!m_editingEnabled)
-        return;
+    const QList<QListWidgetItem *> selectedBefore = m_ui->listWidget->selectedItems();
+    {
+        const QSignalBlocker blocker(m_ui->listWidget);
+        removeNewSceneItem();
+        if (m_editingEnabled)
+            addNewSceneItem();
+    }
+    if (m_ui->listWidget->selectedItems() != selectedBefore)
+        listSelectionChanged();
+}
 
+void VelmoScenesTable::addNewSceneItem()
+{
     m_newSceneItem = new QListWidgetItem;
-    m_newSceneItem->setFlags(m_newSceneItem->flags() & ~Qt::ItemIsSelectable);
+    m_newSceneItem->setFlags(Qt::NoItemFlags); // a press on it must not take the selection away
+    m_newSceneItem->setData(Qt::AccessibleTextRole, tr("New scene"));
     m_ui->listWidget->addItem(m_newSceneItem);
 
     auto *button = new OvixSvgButton(m_ui->listWidget->viewport());
-    button->setMinimumSize(newSceneButtonSize, newSceneButtonSize);
-    button->setMaximumHeight(newSceneButtonSize);
+    button->setFixedSize(newSceneButtonSize, newSceneButtonSize);
     button->setFilename(u":/Windows/AddButton"_s);
     button->setFilenameInverted(u":/Windows/AddButtonChecked"_s);
     button->setInvertOnHover(true);
     button->setAccessibleName(tr("New scene"));
     connect(button, &OvixSvgButton::clicked, this, &VelmoScenesTable::newScenePressed);
     m_newSceneItem->setSizeHint(QSize(0, button->height()));
-    m_ui->listWidget->setItemWidget(m_newSceneItem, button);
+    m_ui->listWidget->setRowWidget(m_newSceneItem, button);
 }
 
 void VelmoScenesTable::select(VelmoSceneItem *row)
 {
     m_ui->listWidget->setCurrentItem(row->getItem());
     m_ui->listWidget->scrollToItem(row->getItem(), QAbstractItemView::PositionAtCenter);
+    m_centreWhenShown = !isVisible();
 }
 
 void VelmoScenesTable::updateNameOf(QListWidgetItem *item)

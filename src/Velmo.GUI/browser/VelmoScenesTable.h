@@ -88,6 +88,7 @@ protected:
     /// Gives every row the widths of the column titles.
     void resize();
     void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     VelmoSceneItem *findRow(const QString &name) const;
@@ -95,6 +96,7 @@ private:
     void resizeItem(VelmoSceneItem *row) const;
     void removeNewSceneItem();
     void fixNewSceneItem();
+    void addNewSceneItem();
     void select(VelmoSceneItem *row);
     void updateNameOf(QListWidgetItem *item);
 
@@ -104,4 +106,5 @@ private:
     QListWidgetItem *m_newSceneItem = nullptr;
     bool m_editingEnabled = true;
     bool m_multiSelectionEnabled = true;
+    bool m_centreWhenShown = false;
 };

@@ -19,7 +19,7 @@ QString AccessiblePressable::text(QAccessible::Text kind) const
 QStringList AccessiblePressable::actionNames() const
 {
     QStringList names;
-    if (widget()->isEnabled())
+    if (isPressable())
         names << pressAction();
     return names + QAccessibleWidget::actionNames();
 }
@@ -28,6 +28,11 @@ void AccessiblePressable::doAction(const QString &action)
 {
     if (action != pressAction())
         QAccessibleWidget::doAction(action);
-    else if (widget()->isEnabled())
+    else if (isPressable())
         press();
+}
+
+bool AccessiblePressable::isPressable() const
+{
+    return widget()->isEnabled();
 }

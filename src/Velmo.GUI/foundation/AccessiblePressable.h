@@ -16,6 +16,8 @@ public:
 protected:
     /// What the widget is for, where nobody has given it a name.
     virtual QString purpose() const = 0;
+    /// Whether a click does anything now.
+    virtual bool isPressable() const;
     /// Does what a click does.
     virtual void press() = 0;
 };

@@ -6,6 +6,8 @@
 #include "foundation/QClickableWidget.h"
 
 #include <QHash>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
 
 namespace {
 
@@ -36,6 +38,15 @@ QString wordsOf(const QString &filename)
     return words;
 }
 
+/// What a label says, without its markup.
+QString plainTextOf(const QLabel *label)
+{
+    const QString text = label->text();
+    const bool markedUp =
+        label->textFormat() == Qt::RichText || (label->textFormat() == Qt::AutoText && Qt::mightBeRichText(text));
+    return markedUp ? QTextDocumentFragment::fromHtml(text).toPlainText() : text;
+}
+
 class AccessibleIcon : public QAccessibleWidget
 {
 public:
@@ -51,10 +62,13 @@ public:
 class AccessibleIconButton : public AccessiblePressable
 {
 public:
-    explicit AccessibleIconButton(QWidget *widget)
-        : AccessiblePressable(
-            widget, static_cast<OvixSvgButton *>(widget)->isCheckable() ? QAccessible::CheckBox : QAccessible::Button)
-    { }
+    explicit AccessibleIconButton(QWidget *widget) : AccessiblePressable(widget, QAccessible::Button) { }
+
+    /// Asked each time: a button may be made checkable after the first question.
+    QAccessible::Role role() const override
+    {
+        return button()->isCheckable() ? QAccessible::CheckBox : QAccessible::Button;
+    }
 
     QAccessible::State state() const override
     {
@@ -66,6 +80,7 @@ public:
 
 protected:
     QString purpose() const override { return wordsOf(button()->firstFilename()); }
+    bool isPressable() const override { return button()->isEnabled() && !button()->ignoresSingleClick(); }
     void press() override { button()->click(); }
 
 private:
@@ -77,8 +92,15 @@ class AccessibleClickableLabel : public AccessiblePressable
 public:
     explicit AccessibleClickableLabel(QWidget *widget) : AccessiblePressable(widget, QAccessible::Button) { }
 
+    /// A label that leaves single clicks to its parent is read, not pressed.
+    QAccessible::Role role() const override
+    {
+        return label()->ignoresSingleClick() ? QAccessible::StaticText : QAccessible::Button;
+    }
+
 protected:
-    QString purpose() const override { return label()->text(); }
+    QString purpose() const override { return plainTextOf(label()); }
+    bool isPressable() const override { return label()->isEnabled() && !label()->ignoresSingleClick(); }
     void press() override { label()->click(); }
 
 private:
@@ -97,7 +119,7 @@ protected:
         const QList<QLabel *> labels = widget()->findChildren<QLabel *>();
         for (const QLabel *label : labels) {
             if (!label->text().isEmpty())
-                return label->text();
+                return plainTextOf(label);
         }
         return {};
     }
@@ -113,15 +135,16 @@ template <class Interface> QAccessibleInterface *make(QWidget *widget)
 
 void AccessibleWidgets::install()
 {
-    static const bool installed = [] {
+    static const bool filled = [] {
         add("OvixSvgLabel", make<AccessibleIcon>);
         add("OvixSvgButton", make<AccessibleIconButton>);
         add("QClickableLabel", make<AccessibleClickableLabel>);
         add("QClickableWidget", make<AccessibleClickableWidget>);
-        QAccessible::installFactory(create);
         return true;
     }();
-    Q_UNUSED(installed)
+    Q_UNUSED(filled)
+    // The toolkit forgets its factories with the application object; one that it has already is not added again.
+    QAccessible::installFactory(create);
 }
 
 void AccessibleWidgets::add(const char *className, Creator creator)

@@ -8,7 +8,7 @@ namespace AccessibleWidgets {
 
 using Creator = QAccessibleInterface *(*)(QWidget *widget);
 
-/// Puts the factory in place, once; every class that it knows calls this when it is constructed.
+/// Puts the factory in place; every class that it knows calls this when it is constructed.
 void install();
 
 /// Makes the factory use @p create for the class of this name and those derived from it.

@@ -2,6 +2,8 @@
 
 #include <QScopedValueRollback>
 
+#include <utility>
+
 namespace {
 
 /// Undoes what children took over from a parent that was held when they were made. Does not ask for repaints one by
@@ -23,6 +25,16 @@ DeferredListWidget::DeferredListWidget(QWidget *parent) : QListWidget(parent)
 { }
 
 DeferredListWidget::~DeferredListWidget() = default;
+
+void DeferredListWidget::setRowWidget(QListWidgetItem *item, QWidget *widget)
+{
+    if (widget->minimumWidth() == widget->maximumWidth()) {
+        m_centredWidgets.removeAll(nullptr);
+        m_centredWidgets.append(widget);
+    }
+    widget->move(0, -widget->height());
+    setItemWidget(item, widget);
+}
 
 void DeferredListWidget::doItemsLayout()
 {
@@ -47,8 +59,18 @@ void DeferredListWidget::rowsInserted(const QModelIndex &parent, int first, int 
 
 void DeferredListWidget::updateEditorGeometries()
 {
-    if (!m_inserting)
-        QListWidget::updateEditorGeometries();
+    if (m_inserting)
+        return;
+    QListWidget::updateEditorGeometries();
+    centreWidgets();
+}
+
+void DeferredListWidget::centreWidgets()
+{
+    for (const QPointer<QWidget> &widget : std::as_const(m_centredWidgets)) {
+        if (widget)
+            widget->move((viewport()->width() - widget->width()) / 2, widget->y());
+    }
 }
 
 void DeferredListWidget::holdUpdates()

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QList>
 #include <QListWidget>
+#include <QPointer>
 
 /// A list of row widgets that stays fast while it is filled on screen.
 ///
@@ -16,6 +18,10 @@ public:
     explicit DeferredListWidget(QWidget *parent = nullptr);
     ~DeferredListWidget() override;
 
+    /// As `setItemWidget`, but the widget waits for its place outside the viewport: at the first row's place it would
+    /// take the pointer that is over that row. A widget of fixed width is centred in its row.
+    void setRowWidget(QListWidgetItem *item, QWidget *widget);
+
     void doItemsLayout() override;
 
 protected:
@@ -26,9 +32,11 @@ protected slots:
     void updateEditorGeometries() override;
 
 private:
+    void centreWidgets();
     void holdUpdates();
     void releaseUpdates();
 
+    QList<QPointer<QWidget>> m_centredWidgets;
     bool m_inserting = false;
     bool m_holdsUpdates = false;
 };

@@ -12,9 +12,14 @@ constexpr qreal ringRadius = 3.0;
 
 } // namespace
 
+bool hasKeyboardFocus(const QWidget *widget)
+{
+    return widget->focusPolicy() != Qt::NoFocus && widget->hasFocus();
+}
+
 bool isPressKey(const QWidget *widget, const QKeyEvent *event)
 {
-    if (widget->focusPolicy() == Qt::NoFocus || event->isAutoRepeat())
+    if (!hasKeyboardFocus(widget))
         return false;
     if ((event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier)
         return false;
@@ -23,7 +28,7 @@ bool isPressKey(const QWidget *widget, const QKeyEvent *event)
 
 void paintFocusRing(QWidget *widget)
 {
-    if (!widget->hasFocus())
+    if (!hasKeyboardFocus(widget))
         return;
     QPainter painter(widget);
     painter.setRenderHint(QPainter::Antialiasing);

@@ -3,8 +3,11 @@
 class QKeyEvent;
 class QWidget;
 
-/// True for the keys that press a clickable widget to which the application has given a focus policy: Space, Return and
-/// Enter, not repeated and without modifiers.
+/// Whether the application has made the widget answer keys, and it has the focus itself, not one of its children.
+bool hasKeyboardFocus(const QWidget *widget);
+
+/// Whether the key is one that presses a clickable widget that has the keyboard focus: Space, Return and Enter without
+/// modifiers. A key that repeats belongs to the widget too, but presses only once: see `QKeyEvent::isAutoRepeat`.
 bool isPressKey(const QWidget *widget, const QKeyEvent *event);
 
 /// Draws the keyboard focus on a widget that has it, inside its own paint event.

@@ -26,6 +26,11 @@ void OvixSvgButton::setIgnoreSingleClick(bool ignore)
     m_ignoreSingleClick = ignore;
 }
 
+bool OvixSvgButton::ignoresSingleClick() const
+{
+    return m_ignoreSingleClick;
+}
+
 void OvixSvgButton::click()
 {
     if (!isEnabled() || m_ignoreSingleClick)
@@ -63,10 +68,10 @@ void OvixSvgButton::mouseDoubleClickEvent(QMouseEvent *event)
 
 void OvixSvgButton::keyPressEvent(QKeyEvent *event)
 {
-    if (isPressKey(this, event))
-        click();
-    else
+    if (!isPressKey(this, event))
         OvixSvgLabel::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        click();
 }
 
 bool OvixSvgButton::answersPointer() const

@@ -20,6 +20,7 @@ public:
 
     /// Leaves left releases to the parent widget: no `clicked`, no check. Off by default.
     void setIgnoreSingleClick(bool ignore);
+    bool ignoresSingleClick() const;
 
 signals:
     void clicked();

@@ -2,10 +2,12 @@
 
 #include <QHashFunctions>
 
+static_assert(sizeof(size_t) == 8, "Equality of keys rests on 64 bits of hash.");
+
 size_t qHash(const OvixSvgLayer &layer, size_t seed) noexcept
 {
-    return qHashMulti(seed, layer.filename, layer.rect.x(), layer.rect.y(), layer.rect.width(), layer.rect.height(),
-                      qHashRange(layer.elementIds.cbegin(), layer.elementIds.cend(), seed));
+    return qHashMulti(seed, layer.filename, layer.rect.left(), layer.rect.top(), layer.rect.right(),
+                      layer.rect.bottom(), qHashRange(layer.elementIds.cbegin(), layer.elementIds.cend(), seed));
 }
 
 size_t qHash(const OvixSvgKey &key, size_t seed) noexcept

@@ -7,9 +7,11 @@
 #include "foundation/SvgLabelSheets.h"
 #include "foundation/UpdatesHeld.h"
 
+#include <QBackingStore>
 #include <QPaintEvent>
 #include <QPixmap>
 
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -34,9 +36,15 @@ void setAllLayers(QList<OvixSvgLayer> &layers, const QList<QString> &filenames)
         layers[i].filename = filenames[i];
 }
 
+/// What margins take of a side; bad ones take no more than a widget can have.
+int taken(int first, int second)
+{
+    return int(std::clamp<qint64>(qint64(first) + second, 0, QWIDGETSIZE_MAX));
+}
+
 QSize sizeOf(const QMargins &margins)
 {
-    return {margins.left() + margins.right(), margins.top() + margins.bottom()};
+    return {taken(margins.left(), margins.right()), taken(margins.top(), margins.bottom())};
 }
 
 } // namespace
@@ -272,10 +280,14 @@ void OvixSvgLabel::updateSizes()
         setContentsMargins(around);
 }
 
-/// What changes during a paint of the whole widget is on screen at the end of that paint.
+/// What changes during a paint of the whole widget on the screen is to be seen at the end of that paint. A paint into a
+/// picture (`grab`) shows nothing on the screen.
 bool OvixSvgLabel::showsWholeChange(const QPaintEvent *paint) const
 {
-    return paint && visibleRegion().subtracted(paint->region()).isEmpty();
+    QPoint offset;
+    QBackingStore *screen = backingStore();
+    return paint && screen && redirected(&offset) == screen->paintDevice()
+        && visibleRegion().subtracted(paint->region()).isEmpty();
 }
 
 void OvixSvgLabel::updatePicture(const QPaintEvent *paint)
@@ -311,6 +323,7 @@ void OvixSvgLabel::updateSheet()
     }
     if (m_sheetPending) {
         setSheetOnChange(this, m_checked ? m_checkedSheet : m_normalSheet);
+        updateSizes(); // a sheet with padding has set margins of its own
         m_sheetPending = false;
     }
 }

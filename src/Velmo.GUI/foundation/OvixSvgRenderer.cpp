@@ -15,18 +15,19 @@
 #include <QSvgRenderer>
 #include <QXmlStreamReader>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <map>
 #include <memory>
 #include <optional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// What the raster engine can paint on, and more than any screen asks for.
-constexpr double maximumSide = 32767.0;
+// A gibibyte, more than any screen asks for.
 constexpr double maximumPixels = 256.0 * 1024 * 1024;
 
 constexpr qreal shadowBlurRadius = 4.0;
@@ -37,14 +38,19 @@ int toPixels(double length)
     return int(std::lround(std::clamp(length, -largest, largest)));
 }
 
+/// What a border leaves of a side, at least one pixel.
+int insideBorder(int side, double border)
+{
+    return toPixels(std::max(side - std::round(border), 1.0));
+}
+
 /// The raster size of a picture, or nothing where no picture of that size can be held.
 std::optional<QSize> rasterSize(QSize size, double scale)
 {
     const double width = size.width() * scale;
     const double height = size.height() * scale;
     // Written so that a scale that is not a number fails as well.
-    const bool paintable = width >= 0.5 && height >= 0.5 && width <= maximumSide && height <= maximumSide
-        && width * height <= maximumPixels;
+    const bool paintable = !size.isEmpty() && width >= 0.5 && height >= 0.5 && width * height <= maximumPixels;
     if (!paintable)
         return std::nullopt;
     return QSize(toPixels(width), toPixels(height));
@@ -58,15 +64,20 @@ bool holdsSvgDocument(const QString &filename)
     QFile file(filename);
     if (!file.open(QIODevice::ReadOnly))
         return false;
-    if (file.peek(2) == "\x1f\x8b")
-        return true; // compressed
+    // Taken for compressed by its name, and then complained about when it is not.
+    if (filename.endsWith(".svgz"_L1, Qt::CaseInsensitive) || filename.endsWith(".svg.gz"_L1, Qt::CaseInsensitive))
+        return file.peek(2) == "\x1f\x8b";
 
     QXmlStreamReader reader(&file);
+    reader.setNamespaceProcessing(false); // drawing programs leave prefixes undeclared, and the parser does not mind
     if (!reader.readNextStartElement() || reader.name() != "svg"_L1)
         return false;
-    while (!reader.atEnd())
-        reader.readNext();
-    return !reader.hasError();
+    // The parser looks no further than the first end of a drawing.
+    while (!reader.atEnd()) {
+        if (reader.readNext() == QXmlStreamReader::EndElement && reader.name() == "svg"_L1)
+            return true;
+    }
+    return false;
 }
 
 /// Maps rectangles of a document to pixels of the image.
@@ -76,14 +87,18 @@ public:
     DocumentPlacement(const OvixSvgKey &key, const OvixSvgLayer &layer, const QRectF &viewBox, QSize inner,
                       double scale)
     {
-        QRect target(QPoint(0, 0), inner);
-        if (!layer.rect.isNull()) {
-            target = QRect(toPixels(layer.rect.top() * scale), toPixels(layer.rect.left() * scale),
-                           toPixels(layer.rect.width() * scale), toPixels(layer.rect.height() * scale));
+        QPoint corner;
+        QSize extent = inner;
+        // In floating point, since the extent of a rectangle need not fit into an integer.
+        const double width = double(layer.rect.right()) - layer.rect.left() + 1;
+        const double height = double(layer.rect.bottom()) - layer.rect.top() + 1;
+        if (width != 0 || height != 0) {
+            corner = QPoint(toPixels(layer.rect.top() * scale), toPixels(layer.rect.left() * scale));
+            extent = QSize(toPixels(width * scale), toPixels(height * scale));
         }
-        m_scaleX = target.width() / (viewBox.x() + viewBox.width());
-        m_scaleY = target.height() / (viewBox.y() + viewBox.height());
-        m_offset = QPointF(key.margins.left() * scale + target.left(), key.margins.top() * scale + target.top());
+        m_scaleX = extent.width() / (viewBox.x() + viewBox.width());
+        m_scaleY = extent.height() / (viewBox.y() + viewBox.height());
+        m_offset = QPointF(key.margins.left() * scale + corner.x(), key.margins.top() * scale + corner.y());
     }
 
     bool isUsable() const { return std::isfinite(m_scaleX) && std::isfinite(m_scaleY); }
@@ -192,8 +207,8 @@ struct OvixSvgRenderer::GlobalContext
         image.fill(Qt::transparent);
 
         const QMargins &margins = key.margins;
-        const QSize inner(std::max(size->width() - toPixels((double(margins.left()) + margins.right()) * scale), 1),
-                          std::max(size->height() - toPixels((double(margins.top()) + margins.bottom()) * scale), 1));
+        const QSize inner(insideBorder(size->width(), (double(margins.left()) + margins.right()) * scale),
+                          insideBorder(size->height(), (double(margins.top()) + margins.bottom()) * scale));
         for (const OvixSvgLayer &layer : key.layers) {
             QSvgRenderer &renderer = document(layer.filename);
             if (renderer.isValid())
@@ -244,6 +259,8 @@ QImage OvixSvgRenderer::generateShadow(QImage image, int)
         return image;
     const qreal devicePixelRatio = image.devicePixelRatio();
     image.setDevicePixelRatio(1.0);
+    if (image.depth() < 8 || image.format() == QImage::Format_Indexed8)
+        image.convertTo(QImage::Format_RGBA8888); // no painter works on a palette
 
     QImage silhouette(image.size(), QImage::Format_RGBA8888);
     silhouette.fill(Qt::transparent);

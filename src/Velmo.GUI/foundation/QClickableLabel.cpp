@@ -24,6 +24,11 @@ void QClickableLabel::setIgnoreSingleClick(bool ignore)
     m_ignoreSingleClick = ignore;
 }
 
+bool QClickableLabel::ignoresSingleClick() const
+{
+    return m_ignoreSingleClick;
+}
+
 void QClickableLabel::click()
 {
     if (!isEnabled() || m_ignoreSingleClick)
@@ -65,16 +70,23 @@ void QClickableLabel::mouseDoubleClickEvent(QMouseEvent *event)
 
 void QClickableLabel::keyPressEvent(QKeyEvent *event)
 {
-    if (isPressKey(this, event))
-        click();
-    else
+    if (answersLinkKeys() || !isPressKey(this, event))
         QLabel::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        click();
 }
 
 void QClickableLabel::paintEvent(QPaintEvent *event)
 {
     QLabel::paintEvent(event);
-    paintFocusRing(this);
+    if (!answersLinkKeys())
+        paintFocusRing(this);
+}
+
+/// The keys belong to links and to the selection of text, which show their focus themselves.
+bool QClickableLabel::answersLinkKeys() const
+{
+    return textInteractionFlags() & (Qt::LinksAccessibleByKeyboard | Qt::TextSelectableByKeyboard);
 }
 
 bool QClickableLabel::answersSingleClick(const QMouseEvent *event) const

@@ -19,6 +19,7 @@ public:
 
     /// Leaves left presses and releases to the parent widget; double clicks are still answered. Off by default.
     void setIgnoreSingleClick(bool ignore);
+    bool ignoresSingleClick() const;
 
 signals:
     void clicked();
@@ -38,6 +39,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    bool answersLinkKeys() const;
     bool answersSingleClick(const QMouseEvent *event) const;
 
     bool m_ignoreSingleClick = false;

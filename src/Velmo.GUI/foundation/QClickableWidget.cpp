@@ -28,10 +28,10 @@ void QClickableWidget::mousePressEvent(QMouseEvent *event)
 
 void QClickableWidget::keyPressEvent(QKeyEvent *event)
 {
-    if (isPressKey(this, event))
-        click();
-    else
+    if (!isPressKey(this, event))
         QWidget::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        click();
 }
 
 void QClickableWidget::paintEvent(QPaintEvent *event)

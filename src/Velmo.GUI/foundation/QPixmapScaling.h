@@ -7,8 +7,8 @@ class QPixmap;
 /// Scales pixmaps smoothly for screens of any density.
 ///
 /// Widths and heights are logical pixels. The result has them times @p devicePixelRatio device pixels and carries that
-/// ratio. A null pixmap, or a size or ratio that is zero, negative, not a number or beyond 32,767 device pixels, gives
-/// a null pixmap.
+/// ratio. A null pixmap, a size or ratio that is zero, negative or not a number, or a result with a side beyond 32,767
+/// device pixels gives a null pixmap.
 class VELMO_GUI_EXPORT QPixmapScaling
 {
 public:

@@ -1,6 +1,6 @@
 #include "foundation/SvgLabelSheets.h"
 
-#include <array>
+#include "foundation/VelmoPalette.h"
 
 using namespace Qt::StringLiterals;
 
@@ -8,27 +8,28 @@ namespace {
 
 struct SchemeColours
 {
-    QString text;
-    QString background;
-    QString hover;
-    QString checked;
+    QLatin1String text;
+    QLatin1String background;
+    QLatin1String hover;
+    QLatin1String checked;
 };
 
 SchemeColours coloursOf(OvixSvgLabel::ColorScheme scheme)
 {
+    using namespace VelmoPalette;
     switch (scheme) {
     case OvixSvgLabel::Black:
-        return {u"rgb(59,59,59)"_s, u"rgb(28,28,28)"_s, u"rgba(255,255,255,38)"_s, u"rgb(28,28,28)"_s};
+        return {raised, deep, hover, deep};
     case OvixSvgLabel::Charcoal:
-        return {u"rgb(59,59,59)"_s, u"rgb(39,39,39)"_s, u"rgb(81,81,81)"_s, u"rgb(81,81,81)"_s};
+        return {raised, background, disabledText, disabledText};
     case OvixSvgLabel::CharcoalBlue:
-        return {u"rgb(219,219,219)"_s, u"rgb(39,39,39)"_s, u"rgb(116, 211, 252)"_s, u"rgb(116, 211, 252)"_s};
+        return {text, background, accent, accent};
     case OvixSvgLabel::Grey:
-        return {u"rgb(59,59,59)"_s, u"rgb(81,81,81)"_s, u"rgb(59,59,59)"_s, u"rgb(219,219,219)"_s};
+        return {raised, disabledText, raised, text};
     case OvixSvgLabel::White:
-        return {u"rgb(59,59,59)"_s, u"rgb(219,219,219)"_s, u"rgb(219,219,219)"_s, u"rgb(219,219,219)"_s};
+        return {raised, text, text, text};
     case OvixSvgLabel::GraphiteBlue:
-        return {u"rgb(59,59,59)"_s, u"rgb(59,59,59)"_s, u"rgba(255,255,255,38)"_s, u"rgba(116, 211, 252,48)"_s};
+        return {raised, raised, hover, accentTranslucent};
     }
     return {};
 }
@@ -58,13 +59,12 @@ QString tailOf(const SvgLabelSheets::Look &look)
 SvgLabelSheets SvgLabelSheets::of(const Look &look)
 {
     SchemeColours colours = coloursOf(look.scheme);
-    const QString transparent = u"transparent"_s;
     if (!look.backgroundVisible)
-        colours.background = transparent;
+        colours.background = VelmoPalette::transparent;
     if (!look.hoverVisible)
-        colours.hover = transparent;
+        colours.hover = VelmoPalette::transparent;
     if (!look.checkedBackgroundVisible)
-        colours.checked = transparent;
+        colours.checked = VelmoPalette::transparent;
 
     const QString tail = tailOf(look);
     return {

@@ -1,5 +1,6 @@
 #include "foundation/oVIXAspectRatioLabel.h"
 
+#include <algorithm>
 #include <limits>
 
 oVIXAspectRatioLabel::oVIXAspectRatioLabel(QWidget *parent) : QLabel(parent)

@@ -27,6 +27,7 @@ public:
     static QString getAppStyleSheet();
 
     /// Makes the executable's folder the current folder, and that folder and its "plugins" the only library paths.
-    /// Call it once, before the application object is made. Does nothing when the system does not tell the path.
+    /// Call it once, before the first plug-in is loaded. An application object made afterwards adds its own folder, the
+    /// same one, at the end of the library paths. Does nothing when the system does not tell the path.
     static void readQtPaths();
 };
