@@ -1,0 +1,134 @@
+#include "scenes/ProjectFolder.h"
+
+#include "VelmoVersion.h"
+#include "scenes/SceneNames.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QXmlStreamWriter>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto newSceneTime = "00:00:00 | 25"_L1;
+constexpr auto newSceneBakeStatus = "Not baked"_L1;
+
+bool comesBefore(const QString &left, const QString &right)
+{
+    const int order = left.compare(right, Qt::CaseInsensitive);
+    return order != 0 ? order < 0 : left < right;
+}
+
+void writeEmptyScene(QIODevice &file)
+{
+    QXmlStreamWriter writer(&file);
+    writer.setAutoFormatting(true);
+    writer.writeStartDocument();
+    writer.writeStartElement(u"VelmoSerializer"_s);
+    writer.writeStartElement(u"scenemetadata"_s);
+    writer.writeAttribute(u"version"_s, VelmoVersion::current().toString());
+    writer.writeAttribute(u"time-fps"_s, newSceneTime);
+    writer.writeAttribute(u"bakestatus"_s, newSceneBakeStatus);
+    writer.writeAttribute(u"actorcount"_s, u"0"_s);
+    writer.writeAttribute(u"vehiclescount"_s, u"0"_s);
+    writer.writeAttribute(u"background-name"_s, u"None"_s);
+    writer.writeEndElement();
+    writer.writeEndElement();
+    writer.writeEndDocument();
+}
+
+} // namespace
+
+QList<ProjectFolder> ProjectFolder::projectsIn(const QString &folder)
+{
+    QList<ProjectFolder> projects;
+    const QStringList names = QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::NoSort);
+    for (const QString &name : names)
+        projects << ProjectFolder(QDir(folder).filePath(name));
+    std::sort(projects.begin(), projects.end(), [](const ProjectFolder &left, const ProjectFolder &right) {
+        return comesBefore(left.name(), right.name());
+    });
+    return projects;
+}
+
+ProjectFolder::ProjectFolder(const QString &path) : m_path(path)
+{ }
+
+QString ProjectFolder::name() const
+{
+    return QFileInfo(m_path).fileName();
+}
+
+QString ProjectFolder::path() const
+{
+    return m_path;
+}
+
+QList<SceneFile> ProjectFolder::scenes() const
+{
+    QList<SceneFile> scenes;
+    const QDir folder(m_path);
+    const QStringList fileNames = folder.entryList({u'*' + SceneFile::ending()}, QDir::Files, QDir::NoSort);
+    for (const QString &fileName : fileNames) {
+        const QString name = fileName.chopped(SceneFile::ending().size());
+        if (!name.isEmpty())
+            scenes.append({name, folder.filePath(fileName)});
+    }
+    std::sort(scenes.begin(), scenes.end(),
+              [](const SceneFile &left, const SceneFile &right) { return comesBefore(left.name, right.name); });
+    return scenes;
+}
+
+ProjectFolder::Change ProjectFolder::renameScene(const SceneFile &scene, const QString &newName) const
+{
+    const QString problem = SceneNames::problem(newName);
+    if (!problem.isEmpty())
+        return {scene, problem};
+
+    const QString oldFileName = QFileInfo(scene.path).fileName();
+    const QString newFileName = newName + oldFileName.right(SceneFile::ending().size());
+    if (isTaken(newFileName, oldFileName))
+        return {scene, tr("There is already a scene called \"%1\".").arg(newName)};
+
+    QFile file(scene.path);
+    const QString newPath = QDir(m_path).filePath(newFileName);
+    if (!file.rename(newPath))
+        return {scene, tr("The file cannot be renamed: %1").arg(file.errorString())};
+    return {{newName, newPath}, {}};
+}
+
+ProjectFolder::Change ProjectFolder::addScene() const
+{
+    const QString name = SceneNames::firstFree(
+        tr("New scene"), [this](const QString &candidate) { return isTaken(candidate + SceneFile::ending()); });
+    const SceneFile scene{name, QDir(m_path).filePath(name + SceneFile::ending())};
+
+    // Whoever makes a file of this name first has it; only then is it safe to write over the file.
+    QFile claim(scene.path);
+    if (!claim.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return {scene, tr("The scene cannot be made: %1").arg(claim.errorString())};
+    claim.close();
+
+    QSaveFile file(scene.path);
+    if (file.open(QIODevice::WriteOnly)) {
+        writeEmptyScene(file);
+        if (file.commit())
+            return {scene, {}};
+    }
+    claim.remove();
+    return {scene, tr("The scene cannot be written: %1").arg(file.errorString())};
+}
+
+bool ProjectFolder::isTaken(const QString &fileName, const QString &exceptFileName) const
+{
+    const QStringList existing =
+        QDir(m_path).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::NoSort);
+    return std::any_of(existing.cbegin(), existing.cend(), [&](const QString &other) {
+        return other != exceptFileName && other.compare(fileName, Qt::CaseInsensitive) == 0;
+    });
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "scenes/SceneFile.h"
+
+#include <QCoreApplication>
+#include <QList>
+
+/// One project on disk: a folder of scene files. Reads the folder anew on every call and keeps nothing.
+///
+/// No operation ever replaces a file. Names count as equal whatever their case, also where the file system would keep
+/// them apart.
+class ProjectFolder
+{
+    Q_DECLARE_TR_FUNCTIONS(ProjectFolder)
+
+public:
+    /// What became of a file, or why nothing did.
+    struct Change
+    {
+        SceneFile scene;
+        /// In words for the user; empty after success.
+        QString problem;
+    };
+
+    /// The projects in a folder of projects, by name: every sub-folder is one. Empty for a missing folder.
+    static QList<ProjectFolder> projectsIn(const QString &folder);
+
+    explicit ProjectFolder(const QString &path = QString());
+
+    QString name() const;
+    QString path() const;
+
+    /// The project's scenes, by name.
+    QList<SceneFile> scenes() const;
+
+    /// Gives the scene's file another name; a mere change of case is one.
+    Change renameScene(const SceneFile &scene, const QString &newName) const;
+    /// Writes a new, empty scene under a name that is still free.
+    Change addScene() const;
+
+private:
+    bool isTaken(const QString &fileName, const QString &exceptFileName = QString()) const;
+
+    QString m_path;
+};

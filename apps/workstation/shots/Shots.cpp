@@ -1,0 +1,152 @@
+#include "shots/Shots.h"
+
+#include "gallery/GalleryPages.h"
+#include "gallery/GalleryWindow.h"
+#include "shots/PictureFolder.h"
+#include "start/StartScreen.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QPixmap>
+#include <QProcess>
+#include <QTimer>
+
+#include <atomic>
+#include <chrono>
+#include <cstdio>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto longestReading = 60s;
+constexpr int longestProcess = 10 * 60 * 1000;
+
+/// Counts the toolkit's warnings while it lives, and passes them on.
+class WarningCounter
+{
+public:
+    WarningCounter()
+    {
+        s_count = 0;
+        s_before = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &context, const QString &text) {
+            // What a platform without windows cannot do does not matter to a picture.
+            if (text.startsWith("This plugin does not support"_L1))
+                return;
+            if (type != QtDebugMsg && type != QtInfoMsg)
+                ++s_count;
+            s_before(type, context, text);
+        });
+    }
+    ~WarningCounter() { qInstallMessageHandler(s_before); }
+    Q_DISABLE_COPY_MOVE(WarningCounter)
+
+    int count() const { return s_count; }
+
+private:
+    static inline std::atomic_int s_count = 0;
+    static inline QtMessageHandler s_before = nullptr;
+};
+
+/// Lets everything happen that widgets have put off to the next turns of the event loop.
+void settle()
+{
+    // One turn lays out, the next one what has become visible by that.
+    for (int turn = 0; turn < 4; ++turn) {
+        QEventLoop loop;
+        QTimer::singleShot(0ms, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
+}
+
+QImage pictureOf(QWidget *widget)
+{
+    settle();
+    return widget->grab().toImage();
+}
+
+bool waitUntilRead(StartScreen *screen)
+{
+    if (!screen->isReading())
+        return true;
+    QEventLoop loop;
+    QObject::connect(screen, &StartScreen::projectRead, &loop, &QEventLoop::quit);
+    QTimer::singleShot(longestReading, &loop, &QEventLoop::quit);
+    loop.exec();
+    return !screen->isReading();
+}
+
+bool drawStartScreen(PictureFolder &pictures, const QString &projectsFolder)
+{
+    StartScreen screen(projectsFolder);
+    screen.show();
+    const QList<ProjectFolder> projects = screen.projects();
+    bool good = !projects.isEmpty();
+    for (int row = 0; row < int(projects.size()); ++row) {
+        screen.selectProject(row);
+        if (!waitUntilRead(&screen)) {
+            std::fprintf(stderr, "%s: reading the scenes takes too long\n", qPrintable(projects[row].path()));
+            return false;
+        }
+        good = pictures.save(pictureOf(&screen), u"start "_s + projects[row].name()) && good;
+    }
+    return good;
+}
+
+bool drawGallery(PictureFolder &pictures)
+{
+    GalleryWindow window;
+    window.show();
+    bool good = pictures.save(pictureOf(&window), u"gallery"_s);
+
+    const QList<GalleryPages::Page> pages = GalleryPages::all();
+    for (const GalleryPages::Page &page : pages) {
+        const std::unique_ptr<QWidget> widget(page.create());
+        widget->show();
+        settle();
+        // The whole page, however tall.
+        widget->adjustSize();
+        good = pictures.save(pictureOf(widget.get()), page.id) && good;
+    }
+    return good;
+}
+
+} // namespace
+
+int Shots::drawAtAllScales(const QString &folder, const QString &projectsFolder, const QString &platform)
+{
+    int exitCode = 0;
+    for (const QString &scale : {u"1"_s, u"2"_s}) {
+        QStringList arguments = {
+            u"-platform"_s, platform.isEmpty() ? u"offscreen"_s : platform, u"--scale"_s, scale, u"--shots"_s, folder};
+        if (!projectsFolder.isEmpty())
+            arguments << projectsFolder;
+        QProcess process;
+        process.setProcessChannelMode(QProcess::ForwardedChannels);
+        process.start(QCoreApplication::applicationFilePath(), arguments);
+        const bool ended = process.waitForFinished(longestProcess);
+        if (!ended || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
+            std::fprintf(stderr, "Drawing the pictures at scale %s has failed: %s\n", qPrintable(scale),
+                         ended ? "see above" : qPrintable(process.errorString()));
+            exitCode = 1;
+        }
+    }
+    if (exitCode == 0)
+        std::printf("All pictures are in %s\n", qPrintable(QDir::toNativeSeparators(folder)));
+    return exitCode;
+}
+
+int Shots::draw(const QString &folder, const QString &projectsFolder, double scale)
+{
+    const WarningCounter warnings;
+    QApplication::setCursorFlashTime(0);
+    PictureFolder pictures(folder, scale);
+    const bool startScreenDrawn = drawStartScreen(pictures, projectsFolder);
+    const bool galleryDrawn = drawGallery(pictures);
+    if (warnings.count() > 0)
+        std::fprintf(stderr, "The toolkit has printed %d warnings.\n", warnings.count());
+    return startScreenDrawn && galleryDrawn && warnings.count() == 0 ? 0 : 1;
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "scenes/ProjectFolder.h"
+#include "scenes/SceneReader.h"
+
+#include <QWidget>
+
+class ElidedLabel;
+class QLabel;
+class QListWidget;
+class QStackedWidget;
+class StatusLine;
+class VelmoScenesTable;
+
+/// The window the application opens with: the projects of a folder, and the scenes of the selected one.
+///
+/// Scene files are read in the background while the window stays usable. Renaming and adding scenes works on the files
+/// at once; what is refused is explained in the status line.
+class StartScreen : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// @p folder may be missing: the window says so and stays usable.
+    explicit StartScreen(const QString &folder, QWidget *parent = nullptr);
+
+    QList<ProjectFolder> projects() const;
+    /// Shows the scenes of the project in this row of the list.
+    void selectProject(int row);
+    bool isReading() const;
+
+signals:
+    /// The scenes of the selected project have all been read.
+    void projectRead();
+
+private:
+    QWidget *createProjectsPanel();
+    QWidget *createScenesPanel();
+    void listProjects(const QString &folder);
+    void openProject(int row);
+    void readScenes();
+    void showScene(const SceneFacts &facts);
+    void finishReading();
+    void renameScene(const QString &oldName, const QString &newName);
+    void addScene();
+    QString summary() const;
+
+    QList<ProjectFolder> m_projects;
+    ProjectFolder m_project;
+    QList<SceneFacts> m_scenes;
+    /// What to select and to say once everything has been read; empty for the first scene and the summary.
+    QString m_sceneWhenRead;
+    QString m_noteWhenRead;
+    SceneReader *m_reader;
+
+    QListWidget *m_projectList = nullptr;
+    QStackedWidget *m_scenesStack = nullptr;
+    QLabel *m_emptyNote = nullptr;
+    ElidedLabel *m_scenesTitle = nullptr;
+    VelmoScenesTable *m_table = nullptr;
+    StatusLine *m_status;
+};
