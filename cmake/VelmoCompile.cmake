@@ -1,6 +1,17 @@
-# Compiler settings that every target of the project shares: warnings and sanitizers.
-
+# velmo_compile_settings(<target>)
+#
+# What every target of the project shares: language, visibility, Qt's code generators, warnings and sanitizers. All of
+# it sits on the target, so that a project that takes this one in as a subdirectory is not touched by it.
 function(velmo_compile_settings target)
+    set_target_properties(${target} PROPERTIES
+        CXX_STANDARD 20
+        CXX_STANDARD_REQUIRED ON
+        CXX_EXTENSIONS OFF
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
+        AUTOMOC ON
+        AUTOUIC ON
+        AUTORCC ON)
     target_compile_definitions(${target} PRIVATE QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
     if(MSVC)
         target_compile_options(${target} PRIVATE /W4 /utf-8 /permissive-)

@@ -9,6 +9,7 @@ function(velmo_library target name)
     add_library(${target} SHARED ${arg_PUBLIC_HEADERS} ${arg_SOURCES})
     add_library(Velmo2::${name} ALIAS ${target})
     velmo_compile_settings(${target})
+    target_compile_features(${target} INTERFACE cxx_std_17)
 
     string(TOUPPER "VELMO_${name}_BUILD" build_definition)
     target_compile_definitions(${target} PRIVATE ${build_definition}
@@ -19,6 +20,13 @@ function(velmo_library target name)
         VERSION ${PROJECT_VERSION}
         SOVERSION ${PROJECT_VERSION_MAJOR}
         VELMO_PUBLIC_HEADERS "${arg_PUBLIC_HEADERS}")
+    if(WIN32)
+        set_target_properties(${target} PROPERTIES PREFIX "")
+    elseif(NOT APPLE)
+        # The libraries lie in one folder wherever they are installed. What Windows would not link does not link here.
+        set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
+        target_link_options(${target} PRIVATE LINKER:--no-undefined)
+    endif()
 
     set(install_root "${CMAKE_INSTALL_INCLUDEDIR}/Velmo2/Velmo.${name}")
     target_include_directories(${target} PUBLIC
@@ -32,7 +40,7 @@ function(velmo_library target name)
         install(FILES "${header}" DESTINATION "${install_root}/${folder}" COMPONENT Development)
     endforeach()
     install(TARGETS ${target} EXPORT Velmo2GUITargets
-        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Runtime
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Runtime NAMELINK_COMPONENT Development
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Development)
 endfunction()

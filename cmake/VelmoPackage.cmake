@@ -3,13 +3,13 @@ include(CMakePackageConfigHelpers)
 
 set(velmo_package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/Velmo2GUI")
 configure_package_config_file(
-    "${CMAKE_CURRENT_LIST_DIR}/Velmo2GUIConfig.cmake.in" "${CMAKE_CURRENT_BINARY_DIR}/Velmo2GUIConfig.cmake"
+    "${CMAKE_CURRENT_LIST_DIR}/Velmo2GUIConfig.cmake.in" "${PROJECT_BINARY_DIR}/Velmo2GUIConfig.cmake"
     INSTALL_DESTINATION "${velmo_package_folder}")
-write_basic_package_version_file("${CMAKE_CURRENT_BINARY_DIR}/Velmo2GUIConfigVersion.cmake"
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/Velmo2GUIConfigVersion.cmake"
     COMPATIBILITY SameMajorVersion)
 
-install(EXPORT Velmo2GUITargets NAMESPACE Velmo2:: DESTINATION "${velmo_package_folder}")
+install(EXPORT Velmo2GUITargets NAMESPACE Velmo2:: DESTINATION "${velmo_package_folder}" COMPONENT Development)
 install(FILES
-    "${CMAKE_CURRENT_BINARY_DIR}/Velmo2GUIConfig.cmake"
-    "${CMAKE_CURRENT_BINARY_DIR}/Velmo2GUIConfigVersion.cmake"
-    DESTINATION "${velmo_package_folder}")
+    "${PROJECT_BINARY_DIR}/Velmo2GUIConfig.cmake"
+    "${PROJECT_BINARY_DIR}/Velmo2GUIConfigVersion.cmake"
+    DESTINATION "${velmo_package_folder}" COMPONENT Development)

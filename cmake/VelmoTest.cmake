@@ -1,3 +1,17 @@
+# velmo_test_environment(<test>...)
+#
+# Frees a test from what the user's session sets, and lets programs find the toolkit's libraries on Windows.
+function(velmo_test_environment)
+    set(changes
+        LC_ALL=set:C.UTF-8
+        QT_SCALE_FACTOR=unset: QT_SCREEN_SCALE_FACTORS=unset: QT_FONT_DPI=unset:
+        QT_STYLE_OVERRIDE=unset: QT_QPA_PLATFORMTHEME=unset: QT_LOGGING_RULES=unset:)
+    if(WIN32)
+        list(APPEND changes "PATH=path_list_prepend:$<TARGET_FILE_DIR:Qt6::Core>")
+    endif()
+    set_tests_properties(${ARGV} PROPERTIES ENVIRONMENT_MODIFICATION "${changes}" TIMEOUT 300)
+endfunction()
+
 # velmo_test(<label> <name> [POSIX] [SCALES <factor>...] [LIBRARIES <library>...])
 #
 # A Qt Test program tests/<label>/<name>.cpp, run once at scale 1 and once more at every factor of SCALES.
@@ -13,10 +27,13 @@ function(velmo_test label name)
     target_link_libraries(${name} PRIVATE Velmo2::GUI VelmoTestSupport ${arg_LIBRARIES})
 
     # The platform is an argument rather than a variable, since compatibility layers drop QT_ variables.
-    add_test(NAME ${label}.${name} COMMAND ${name} -platform offscreen)
-    set_tests_properties(${label}.${name} PROPERTIES LABELS ${label} TIMEOUT 300)
+    set(test ${label}.${name})
+    add_test(NAME ${test} COMMAND ${name} -platform offscreen)
+    set(tests ${test})
     foreach(factor IN LISTS arg_SCALES)
-        add_test(NAME ${label}.${name}@${factor} COMMAND ${name} -platform offscreen --scale ${factor})
-        set_tests_properties(${label}.${name}@${factor} PROPERTIES LABELS ${label} TIMEOUT 300)
+        add_test(NAME ${test}@${factor} COMMAND ${name} -platform offscreen --scale ${factor})
+        list(APPEND tests ${test}@${factor})
     endforeach()
+    velmo_test_environment(${tests})
+    set_tests_properties(${tests} PROPERTIES LABELS ${label})
 endfunction()

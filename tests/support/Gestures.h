@@ -6,11 +6,15 @@
 class QWidget;
 
 /// What a user does with the pointer, sent through the window so that the toolkit's own bookkeeping (widget under the
-/// pointer, enter and leave, the pressed widget) follows. Points are in the widget's coordinates.
+/// pointer, enter and leave, the pressed widget) follows. Points are in the widget's coordinates. The offscreen
+/// platform takes scaled points for unscaled ones, so at scale 2 the pointer leaves a window beyond half its size.
 namespace Gestures {
 
 /// Shows @p window and waits until it is on screen.
 void show(QWidget *window);
+
+/// Gives @p widget, whose window is shown, the keyboard.
+void focus(QWidget *widget);
 
 void hover(QWidget *widget, QPoint point);
 /// Over the middle of the widget.

@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QImage>
 #include <QPoint>
+#include <QRect>
 
 class QWidget;
 
@@ -14,5 +15,8 @@ QImage of(QWidget *widget, qreal scale = 1.0);
 
 /// The colour at @p point (logical pixels).
 QColor colourAt(QWidget *widget, QPoint point, qreal scale = 1.0);
+
+/// The smallest rectangle round all pixels of @p image that are not transparent; null when all are.
+QRect drawnArea(const QImage &image);
 
 } // namespace Picture

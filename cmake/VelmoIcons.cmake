@@ -1,0 +1,33 @@
+# velmo_icons(<target> <folder of the .qrc files> <name>...)
+#
+# Compiles <name>.qrc into the target, and every SVG picture of it once more at twice the size under the alias
+# "<alias>@2x". Style sheets rasterise a picture once at its own size; on dense screens the toolkit takes the larger one.
+function(velmo_icons target folder)
+    get_filename_component(folder "${folder}" ABSOLUTE)
+    foreach(name IN LISTS ARGN)
+        set(collection "${folder}/${name}.qrc")
+        file(READ "${collection}" entries)
+        string(REGEX MATCHALL "<file alias=\"[^\"]+\">[^<]+</file>" entries "${entries}")
+
+        set(doubled "")
+        foreach(entry IN LISTS entries)
+            string(REGEX REPLACE "<file alias=\"([^\"]+)\">([^<]+)</file>" "\\1;\\2" entry "${entry}")
+            list(GET entry 0 alias)
+            list(GET entry 1 picture)
+            set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${folder}/${picture}")
+            file(READ "${folder}/${picture}" drawing)
+            string(REGEX MATCH " width=\"([0-9]+)\" height=\"([0-9]+)\"" size "${drawing}")
+            if(NOT size)
+                message(FATAL_ERROR "${folder}/${picture} does not tell its width and height.")
+            endif()
+            math(EXPR width "2 * ${CMAKE_MATCH_1}")
+            math(EXPR height "2 * ${CMAKE_MATCH_2}")
+            string(REPLACE "${size}" " width=\"${width}\" height=\"${height}\"" drawing "${drawing}")
+            file(CONFIGURE OUTPUT "icons/${name}/${alias}@2x.svg" CONTENT "${drawing}" @ONLY)
+            string(APPEND doubled "    <file alias=\"${alias}@2x\">${name}/${alias}@2x.svg</file>\n")
+        endforeach()
+        file(CONFIGURE OUTPUT "icons/${name}@2x.qrc"
+            CONTENT "<RCC>\n  <qresource prefix=\"/${name}\">\n${doubled}  </qresource>\n</RCC>\n" @ONLY)
+        target_sources(${target} PRIVATE "${collection}" "${CMAKE_CURRENT_BINARY_DIR}/icons/${name}@2x.qrc")
+    endforeach()
+endfunction()

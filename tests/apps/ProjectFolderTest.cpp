@@ -1,0 +1,131 @@
+#include "support/TestCase.h"
+
+#include "VelmoSceneMetadataParser.h"
+#include "scenes/ProjectFolder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class ProjectFolderTest : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        TestCase::init();
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_folder->isValid());
+    }
+    void cleanup()
+    {
+        m_folder.reset();
+        TestCase::cleanup();
+    }
+
+    void everySubFolderIsAProject()
+    {
+        const QDir folder(m_folder->path());
+        QVERIFY(folder.mkdir(u"stadium"_s) && folder.mkdir(u"Airport"_s) && folder.mkdir(u"Station"_s));
+        write(u"note.txt"_s, "");
+        QStringList names;
+        for (const ProjectFolder &project : ProjectFolder::projectsIn(m_folder->path()))
+            names << project.name();
+        QCOMPARE(names, QStringList({u"Airport"_s, u"stadium"_s, u"Station"_s}));
+        QVERIFY(ProjectFolder::projectsIn(folder.filePath(u"none"_s)).isEmpty());
+    }
+
+    void listsSceneFilesByNameAndNothingElse()
+    {
+        for (const QString &name : {u"b.vscene"_s, u"A.VSCENE"_s, u"c.v2.vscene"_s, u"d.txt"_s, u".vscene"_s})
+            write(name, "");
+        QVERIFY(QDir(m_folder->path()).mkdir(u"folder.vscene"_s));
+        QStringList names;
+        for (const SceneFile &scene : project().scenes()) {
+            QVERIFY(QFile::exists(scene.path));
+            names << scene.name;
+        }
+        QCOMPARE(names, QStringList({u"A"_s, u"b"_s, u"c.v2"_s}));
+    }
+
+    void renamesOnlyToNamesThatAreFree_data()
+    {
+        QTest::addColumn<QString>("newName");
+        QTest::addColumn<QString>("newFile");
+        QTest::newRow("free") << u"Hall"_s << u"Hall.VScene"_s;
+        QTest::newRow("case only") << u"SQUARE"_s << u"SQUARE.VScene"_s;
+        QTest::newRow("markup and dots") << u"v2.1 & more"_s << u"v2.1 & more.VScene"_s;
+        QTest::newRow("taken") << u"other"_s << QString();
+        QTest::newRow("taken in another case") << u"OTHER"_s << QString();
+        QTest::newRow("out of the folder") << u"../Hall"_s << QString();
+        QTest::newRow("empty") << u""_s << QString();
+    }
+    void renamesOnlyToNamesThatAreFree()
+    {
+        QFETCH(QString, newName);
+        QFETCH(QString, newFile);
+        write(u"Square.VScene"_s, "square");
+        write(u"other.VScene"_s, "other");
+
+        const SceneFile scene{u"Square"_s, path(u"Square.VScene"_s)};
+        const ProjectFolder::Change change = project().renameScene(scene, newName);
+        QCOMPARE(change.problem.isEmpty(), !newFile.isEmpty());
+        const QString file = newFile.isEmpty() ? u"Square.VScene"_s : newFile;
+        QCOMPARE(change.scene.path, path(file));
+        QCOMPARE(change.scene.name, newFile.isEmpty() ? scene.name : newName);
+        QStringList expected = {file, u"other.VScene"_s};
+        expected.sort(Qt::CaseInsensitive);
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files, QDir::Name | QDir::IgnoreCase), expected);
+        QCOMPARE(read(file), "square");
+        QCOMPARE(read(u"other.VScene"_s), "other");
+    }
+
+    void explainsAFileThatHasGone()
+    {
+        QVERIFY(!project().renameScene({u"gone"_s, path(u"gone.vscene"_s)}, u"new"_s).problem.isEmpty());
+        QVERIFY(!ProjectFolder(path(u"no folder"_s)).addScene().problem.isEmpty());
+    }
+
+    void newScenesAreCompleteAndNeverReplaceAFile()
+    {
+        write(u"new SCENE.vscene"_s, "mine");
+        QVERIFY(QDir(m_folder->path()).mkdir(u"New scene 2.vscene"_s));
+        const ProjectFolder::Change change = project().addScene();
+        QCOMPARE(change.problem, QString());
+        QCOMPARE(change.scene.name, u"New scene 3"_s);
+        QCOMPARE(read(u"new SCENE.vscene"_s), "mine");
+
+        VelmoSceneMetadataParser metadata;
+        QVERIFY(metadata.read(change.scene.path).ok);
+        QCOMPARE(metadata.version.toString(), VelmoVersion::current().toString());
+        QCOMPARE(metadata.actorCount, u"0"_s);
+        QCOMPARE(metadata.vehicleCount, u"0"_s);
+        for (const QString &text : {metadata.timeFramerate, metadata.bakeStatus, metadata.backgroundName})
+            QVERIFY(!text.isEmpty());
+    }
+
+private:
+    ProjectFolder project() const { return ProjectFolder(m_folder->path()); }
+    QString path(const QString &fileName) const { return QDir(m_folder->path()).filePath(fileName); }
+
+    void write(const QString &fileName, const QByteArray &content) const
+    {
+        QFile file(path(fileName));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    QByteArray read(const QString &fileName) const
+    {
+        QFile file(path(fileName));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+VELMO_TEST_MAIN(ProjectFolderTest)
+#include "ProjectFolderTest.moc"

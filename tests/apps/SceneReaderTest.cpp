@@ -1,0 +1,128 @@
+#include "support/TestCase.h"
+
+#include "scenes/SceneReader.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThreadPool>
+
+using namespace Qt::StringLiterals;
+
+class SceneReaderTest : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QVERIFY(m_folder.isValid()); }
+
+    void readsFactsAndKeepsDefaultsWhereItCannot_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<bool>("readable");
+        QTest::addColumn<bool>("newer");
+        QTest::addColumn<QString>("actors");
+        QTest::newRow("complete") << scene("version=\"1.0\" actorcount=\"240\"") << true << false << u"240"_s;
+        QTest::newRow("newer") << scene("version=\"99.1\" actorcount=\"7\"") << true << true << u"7"_s;
+        QTest::newRow("without facts") << scene("") << true << false << u"0"_s;
+        QTest::newRow("truncated") << scene("actorcount=\"5\"").chopped(12) << false << false << u"5"_s;
+        QTest::newRow("no scene") << QByteArray("<html/>") << false << false << u"0"_s;
+    }
+    void readsFactsAndKeepsDefaultsWhereItCannot()
+    {
+        QFETCH(QByteArray, content);
+        const SceneFacts facts = SceneFacts::of(write(u"facts"_s, content));
+        QCOMPARE(facts.file.name, u"facts"_s);
+        QTEST(facts.readable, "readable");
+        QTEST(facts.newer, "newer");
+        QTEST(facts.metadata.actorCount, "actors");
+        QVERIFY(QRegularExpression(u"^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d$"_s).match(facts.lastModified).hasMatch());
+    }
+
+    void handsOverInOrderInItsOwnThread()
+    {
+        const QList<SceneFile> files = writeMany(u"ordered"_s, 20);
+        SceneReader reader;
+        QStringList names;
+        connect(&reader, &SceneReader::sceneRead, &reader, [&](const SceneFacts &facts) {
+            QCOMPARE(QThread::currentThread(), thread());
+            names << facts.file.name;
+        });
+        QSignalSpy finished(&reader, &SceneReader::finished);
+        reader.read(files);
+        reader.readAlso(files.first());
+        QVERIFY(reader.isReading());
+        QTRY_COMPARE(finished.count(), 1);
+        QVERIFY(!reader.isReading());
+        QCOMPARE(names.size(), 21);
+        names.removeAll(files.first().name);
+        QVERIFY(std::is_sorted(names.cbegin(), names.cend()));
+    }
+
+    void finishesAnEmptyListToo()
+    {
+        SceneReader reader;
+        QSignalSpy finished(&reader, &SceneReader::finished);
+        reader.read({});
+        QTRY_COMPARE(finished.count(), 1);
+    }
+
+    void nothingOfAnAbandonedListArrives()
+    {
+        const QList<SceneFile> first = writeMany(u"first"_s, 50);
+        const QList<SceneFile> second = writeMany(u"second"_s, 5);
+        SceneReader reader;
+        QStringList names;
+        connect(&reader, &SceneReader::sceneRead, &reader, [&](const SceneFacts &facts) { names << facts.file.name; });
+        QSignalSpy finished(&reader, &SceneReader::finished);
+        reader.read(first);
+        // Some results are already on their way.
+        QThreadPool::globalInstance()->waitForDone();
+        reader.read(second);
+        QTRY_COMPARE(finished.count(), 1);
+        QCOMPARE(names.size(), 5);
+        QVERIFY(names.first().startsWith(u"second"_s));
+    }
+
+    void canBeDeletedWhileReading()
+    {
+        const QList<SceneFile> files = writeMany(u"deleted"_s, 50);
+        for (int i = 0; i < 20; ++i) {
+            SceneReader reader;
+            reader.read(files);
+            QCoreApplication::processEvents();
+        }
+        QThreadPool::globalInstance()->waitForDone();
+        QCoreApplication::processEvents();
+    }
+
+private:
+    static QByteArray scene(const QByteArray &attributes)
+    {
+        return "<VelmoSerializer>\n<scenemetadata " + attributes + "/>\n</VelmoSerializer>\n";
+    }
+
+    SceneFile write(const QString &name, const QByteArray &content) const
+    {
+        const SceneFile scene{name, QDir(m_folder.path()).filePath(name + SceneFile::ending())};
+        QFile file(scene.path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            qWarning("the test cannot write its files");
+        return scene;
+    }
+    QList<SceneFile> writeMany(const QString &prefix, int count) const
+    {
+        QList<SceneFile> files;
+        for (int i = 0; i < count; ++i)
+            files << write(u"%1 %2"_s.arg(prefix).arg(i, 3, 10, QChar(u'0')), scene("actorcount=\"1\""));
+        return files;
+    }
+
+    QTemporaryDir m_folder;
+};
+
+VELMO_TEST_MAIN(SceneReaderTest)
+#include "SceneReaderTest.moc"

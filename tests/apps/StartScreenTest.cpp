@@ -1,0 +1,157 @@
+#include "support/Gestures.h"
+#include "support/TestCase.h"
+
+#include "VelmoSceneItem.h"
+#include "VelmoScenesTable.h"
+#include "start/StartScreen.h"
+#include "start/StatusLine.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class StartScreenTest : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        TestCase::init();
+        m_folder = std::make_unique<QTemporaryDir>();
+        write(u"Airport/Hall.vscene"_s, goodScene);
+        write(u"Airport/Gate.vscene"_s, goodScene);
+        write(u"Airport/Broken.vscene"_s, "no scene");
+        write(u"Station/Platform.vscene"_s, goodScene);
+        m_screen = std::make_unique<StartScreen>(m_folder->path());
+        Gestures::show(m_screen.get());
+        QTRY_VERIFY(!m_screen->isReading());
+    }
+    void cleanup()
+    {
+        m_screen.reset();
+        m_folder.reset();
+        TestCase::cleanup();
+    }
+
+    void listsTheScenesOfTheFirstProject()
+    {
+        QCOMPARE(sceneNames(), QStringList({u"Broken"_s, u"Gate"_s, u"Hall"_s}));
+        QCOMPARE(table()->getSelectedScene(), u"Gate"_s);
+        QCOMPARE(status()->text(), u"3 scenes, 1 could not be read"_s);
+        const auto rows = table()->findChildren<VelmoSceneItem *>();
+        QVERIFY(!rows.first()->isEnabled());
+        QVERIFY(rows.last()->isEnabled());
+    }
+
+    void scenesNeverLandInTheWrongList()
+    {
+        for (int i = 0; i < 200; ++i)
+            write(u"Airport/More %1.vscene"_s.arg(i), goodScene);
+        m_screen->selectProject(1);
+        m_screen->selectProject(0);
+        m_screen->selectProject(1);
+        QTRY_VERIFY(!m_screen->isReading());
+        QCOMPARE(sceneNames(), QStringList(u"Platform"_s));
+    }
+
+    void closesWhileReading()
+    {
+        m_screen->selectProject(1);
+        QVERIFY(m_screen->isReading());
+        m_screen.reset();
+        QCoreApplication::processEvents();
+    }
+
+    void renamesTheFileAndTheRow()
+    {
+        VelmoSceneItem *row = table()->findChildren<VelmoSceneItem *>().last();
+        Gestures::click(row->findChild<QWidget *>(u"nameLabel"_s));
+        Gestures::doubleClick(row->findChild<QWidget *>(u"nameLabel"_s));
+        auto *edit = row->findChild<QLineEdit *>(u"nameEdit"_s);
+        QTRY_VERIFY(edit->isVisible());
+        QTest::keyClicks(edit, u"HALL of fame"_s);
+        QTest::keyClick(edit, Qt::Key_Return);
+        QTRY_VERIFY(!edit->isVisible());
+        QVERIFY(!QFile::exists(path(u"Airport/Hall.vscene"_s)));
+        QVERIFY(QFile::exists(path(u"Airport/HALL of fame.vscene"_s)));
+        QVERIFY(table()->hasScene(u"HALL of fame"_s));
+        QVERIFY(!status()->showsProblem());
+    }
+
+    void saysWhyARenameIsRefused()
+    {
+        emit table()->renameRequested(u"Hall"_s, u"gate"_s);
+        QVERIFY(QFile::exists(path(u"Airport/Hall.vscene"_s)));
+        QVERIFY(table()->hasScene(u"Hall"_s));
+        QVERIFY(status()->showsProblem());
+        QVERIFY2(status()->text().contains(u"gate"_s), qPrintable(status()->text()));
+    }
+
+    void renamesTheRightOneOfTwoThatDifferInCase()
+    {
+        write(u"Station/PLATFORM.vscene"_s, goodScene);
+        if (QDir(path(u"Station"_s)).count() == 3)
+            QSKIP("the file system does not tell cases apart");
+        m_screen->selectProject(1);
+        QTRY_VERIFY(!m_screen->isReading());
+        emit table()->renameRequested(u"Platform"_s, u"Track"_s);
+        QTRY_VERIFY(!m_screen->isReading());
+        QCOMPARE(sceneNames(), QStringList({u"PLATFORM"_s, u"Track"_s}));
+        QCOMPARE(table()->getSelectedScene(), u"Track"_s);
+    }
+
+    void addsAndSelectsANewScene()
+    {
+        for (const QString &name : {u"New scene"_s, u"New scene 2"_s}) {
+            emit table()->newScenePressed();
+            QTRY_VERIFY(!m_screen->isReading());
+            QVERIFY(QFile::exists(path(u"Airport/%1.vscene"_s.arg(name))));
+            QCOMPARE(table()->getSelectedScene(), name);
+            QVERIFY2(status()->text().contains(name), qPrintable(status()->text()));
+        }
+        QCOMPARE(sceneNames().size(), 5);
+    }
+
+    void aMissingFolderIsExplained()
+    {
+        StartScreen screen(path(u"none"_s));
+        Gestures::show(&screen);
+        QVERIFY(screen.projects().isEmpty());
+        screen.selectProject(0);
+        QVERIFY(screen.findChild<StatusLine *>()->showsProblem());
+    }
+
+private:
+    static constexpr auto goodScene = "<VelmoSerializer>\n<scenemetadata actorcount=\"3\"/>\n</VelmoSerializer>\n";
+
+    VelmoScenesTable *table() const { return m_screen->findChild<VelmoScenesTable *>(); }
+    StatusLine *status() const { return m_screen->findChild<StatusLine *>(); }
+    QString path(const QString &name) const { return QDir(m_folder->path()).filePath(name); }
+
+    QStringList sceneNames() const
+    {
+        QStringList names;
+        for (const VelmoSceneItem *row : table()->findChildren<VelmoSceneItem *>())
+            names << row->getName();
+        return names;
+    }
+
+    void write(const QString &name, const QByteArray &content) const
+    {
+        QVERIFY(QDir().mkpath(QFileInfo(path(name)).absolutePath()));
+        QFile file(path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<StartScreen> m_screen;
+};
+
+VELMO_TEST_MAIN(StartScreenTest)
+#include "StartScreenTest.moc"

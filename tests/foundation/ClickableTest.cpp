@@ -1,0 +1,226 @@
+#include "support/Events.h"
+#include "support/Gestures.h"
+#include "support/Picture.h"
+#include "support/TestCase.h"
+
+#include "foundation/QClickableLabel.h"
+#include "foundation/QClickableWidget.h"
+
+#include <QMouseEvent>
+#include <QPointer>
+#include <QTest>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A clickable label and a clickable widget in a window that says what reaches it.
+struct Shown : QWidget
+{
+    QPointer<QClickableLabel> label = new QClickableLabel(u"text"_s, this);
+    QPointer<QClickableWidget> widget = new QClickableWidget(this);
+    QStringList told;
+
+    Shown()
+    {
+        resize(400, 200);
+        label->setGeometry(10, 10, 60, 20);
+        widget->setGeometry(10, 40, 60, 20);
+        QObject::connect(label, &QClickableLabel::clicked, this, [this] { told << u"clicked"_s; });
+        QObject::connect(label, &QClickableLabel::doubleClicked, this, [this] { told << u"double"_s; });
+        QObject::connect(label, &QClickableLabel::clickReleased, this, [this] { told << u"released"_s; });
+        QObject::connect(widget, &QClickableWidget::clicked, this, [this] { told << u"clicked"_s; });
+        Gestures::show(this);
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent *) override { told << u"parent:press"_s; }
+    void mouseReleaseEvent(QMouseEvent *) override { told << u"parent:release"_s; }
+    void mouseDoubleClickEvent(QMouseEvent *) override { told << u"parent:double"_s; }
+    void keyPressEvent(QKeyEvent *) override { told << u"parent:key"_s; }
+};
+
+} // namespace
+
+using Act = std::function<void(Shown &)>;
+Q_DECLARE_METATYPE(Act)
+
+class ClickableTest : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void tellsOfClicksAndLeavesTheRestToTheParent_data()
+    {
+        QTest::addColumn<Act>("act");
+        QTest::addColumn<QString>("told");
+        const auto row = [](const char *name, const char *told, const Act &act) {
+            QTest::newRow(name) << act << QString::fromLatin1(told);
+        };
+        const auto ignoring = [](const Act &act) {
+            return [act](Shown &shown) {
+                shown.label->setIgnoreSingleClick(true);
+                act(shown);
+            };
+        };
+        const Act press = [](Shown &shown) { Gestures::press(shown.label); };
+        const Act click = [](Shown &shown) { Gestures::click(shown.label); };
+        const Act rightClick = [](Shown &shown) { Gestures::click(shown.label, Qt::RightButton); };
+        const Act doubleClick = [](Shown &shown) { Gestures::doubleClick(shown.label); };
+        const Act rightDoubleClick = [](Shown &shown) { Gestures::doubleClick(shown.label, Qt::RightButton); };
+        row("press", "clicked", press);
+        row("click", "clicked released", click);
+        row("right click", "parent:press parent:release", rightClick);
+        row("double click", "clicked released double released", doubleClick);
+        row("right double click", "parent:press parent:release parent:double parent:release", rightDoubleClick);
+        row("click, ignored", "parent:press parent:release", ignoring(click));
+        row("double click, singles ignored", "parent:press parent:release double parent:release",
+            ignoring(doubleClick));
+        row("press on a text that can be selected", "parent:press parent:release", ignoring([](Shown &shown) {
+                shown.label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+                Gestures::click(shown.label);
+            }));
+        row("widget", "clicked parent:release", [](Shown &shown) { Gestures::click(shown.widget); });
+        row("widget, right", "parent:press parent:release",
+            [](Shown &shown) { Gestures::click(shown.widget, Qt::RightButton); });
+    }
+    void tellsOfClicksAndLeavesTheRestToTheParent()
+    {
+        QFETCH(Act, act);
+        Shown shown;
+        act(shown);
+        QTEST(shown.told.join(u' '), "told");
+    }
+
+    void disabledOnesTellNothing()
+    {
+        Shown shown;
+        shown.label->setEnabled(false);
+        shown.widget->setEnabled(false);
+        Gestures::doubleClick(shown.label);
+        Gestures::click(shown.widget);
+        shown.label->click();
+        shown.widget->click();
+        QCOMPARE(shown.told.filter(QRegularExpression(u"^(?!parent)"_s)), QStringList());
+    }
+
+    void followsLinksInItsText()
+    {
+        Shown shown;
+        shown.label->setText(u"<a href='x'>xxxxxxxxxxxxxxxxxx</a>"_s);
+        QString followed;
+        connect(shown.label, &QLabel::linkActivated, this, [&](const QString &link) { followed = link; });
+        Gestures::click(shown.label);
+        QCOMPARE(followed, u"x"_s);
+        QCOMPARE(shown.told.join(u' '), u"clicked released"_s);
+    }
+
+    void selectsTextAsLabelsDo()
+    {
+        Shown shown;
+        shown.label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        const auto send = [&shown](QEvent::Type type, int x, Qt::MouseButton button) {
+            const QPointF at(x, 10);
+            QMouseEvent event(type, at, shown.label->mapToGlobal(at), button, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(shown.label, &event);
+        };
+        send(QEvent::MouseButtonPress, 0, Qt::LeftButton);
+        send(QEvent::MouseMove, 59, Qt::NoButton);
+        QCOMPARE(shown.label->selectedText(), u"text"_s);
+        send(QEvent::MouseButtonRelease, 59, Qt::LeftButton);
+        QCOMPARE(shown.told.join(u' '), u"clicked released"_s);
+    }
+
+    void mayBeDeletedWhileItTells_data()
+    {
+        QTest::addColumn<Act>("arm");
+        QTest::addColumn<Act>("act");
+        const auto row = [](const char *name, const Act &arm, const Act &act) { QTest::newRow(name) << arm << act; };
+        const Act click = [](Shown &shown) { Gestures::click(shown.label); };
+        const auto onLabel = [](auto signal) {
+            return [signal](Shown &shown) { connect(shown.label, signal, &shown, [&shown] { delete shown.label; }); };
+        };
+        const Act onWidget = [](Shown &shown) {
+            connect(shown.widget, &QClickableWidget::clicked, &shown, [&shown] { delete shown.widget; });
+        };
+        row("clicked", onLabel(&QClickableLabel::clicked), click);
+        row("released", onLabel(&QClickableLabel::clickReleased), click);
+        row("double", onLabel(&QClickableLabel::doubleClicked),
+            [](Shown &shown) { Gestures::doubleClick(shown.label); });
+        row("click()", onLabel(&QClickableLabel::clicked), [](Shown &shown) { shown.label->click(); });
+        row("key", onLabel(&QClickableLabel::clicked), [](Shown &shown) {
+            shown.label->setFocusPolicy(Qt::StrongFocus);
+            Gestures::focus(shown.label);
+            QTest::keyClick(shown.label.data(), Qt::Key_Space);
+        });
+        row("link", onLabel(&QLabel::linkActivated), [](Shown &shown) {
+            shown.label->setText(u"<a href='x'>xxxxxxxxxxxxxxxxxx</a>"_s);
+            Gestures::click(shown.label);
+        });
+        row("widget", onWidget, [](Shown &shown) { Gestures::press(shown.widget); });
+        row("widget, key", onWidget, [](Shown &shown) {
+            shown.widget->setFocusPolicy(Qt::StrongFocus);
+            Gestures::focus(shown.widget);
+            QTest::keyPress(shown.widget.data(), Qt::Key_Return);
+        });
+    }
+    void mayBeDeletedWhileItTells()
+    {
+        QFETCH(Act, arm);
+        QFETCH(Act, act);
+        Shown shown;
+        arm(shown);
+        act(shown);
+        QVERIFY(Events::untilIdle());
+        QVERIFY(!shown.label || !shown.widget);
+    }
+
+    void isPressedByKeysOnceItMayHaveTheFocus()
+    {
+        Shown shown;
+        const auto told = [&shown](QWidget *widget, Qt::Key key, bool repeated = false) {
+            shown.told.clear();
+            QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QString(), repeated);
+            QCoreApplication::sendEvent(widget, &event);
+            return shown.told.join(u' ');
+        };
+        for (QWidget *widget : {static_cast<QWidget *>(shown.label), static_cast<QWidget *>(shown.widget)}) {
+            const QString pressed = widget == shown.label ? u"clicked released"_s : u"clicked"_s;
+            Gestures::focus(widget);
+            QCOMPARE(told(widget, Qt::Key_Space), u"parent:key"_s);
+            widget->setFocusPolicy(Qt::StrongFocus);
+            Gestures::focus(&shown);
+            QCOMPARE(told(widget, Qt::Key_Space), u"parent:key"_s);
+            Gestures::focus(widget);
+            for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+                QCOMPARE(told(widget, key), pressed);
+                QCOMPARE(told(widget, key, true), QString());
+            }
+            QCOMPARE(told(widget, Qt::Key_A), u"parent:key"_s);
+        }
+        Gestures::focus(shown.label);
+        shown.label->setIgnoreSingleClick(true);
+        QCOMPARE(told(shown.label, Qt::Key_Space), QString());
+        // Links that answer keys keep them.
+        shown.label->setIgnoreSingleClick(false);
+        shown.label->setText(u"<a href='x'>link</a>"_s);
+        shown.label->setTextInteractionFlags(Qt::TextBrowserInteraction);
+        QVERIFY(!told(shown.label, Qt::Key_Return).contains(u"clicked"_s));
+    }
+
+    void ringsTheFocus()
+    {
+        Shown shown;
+        for (QWidget *widget : {static_cast<QWidget *>(shown.label), static_cast<QWidget *>(shown.widget)}) {
+            QCOMPARE(Picture::colourAt(widget, {30, 0}).alpha(), 0);
+            widget->setFocusPolicy(Qt::StrongFocus);
+            Gestures::focus(widget);
+            QCOMPARE(Picture::colourAt(widget, {30, 0}), QColor(116, 211, 252));
+        }
+    }
+};
+
+VELMO_TEST_MAIN(ClickableTest)
+#include "ClickableTest.moc"

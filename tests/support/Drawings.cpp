@@ -1,0 +1,30 @@
+#include "support/Drawings.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+QString Drawings::svg(const QByteArray &body, const QByteArray &viewBox)
+{
+    return file("<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"" + viewBox + "\">" + body + "</svg>");
+}
+
+QString Drawings::filled(const QByteArray &colour)
+{
+    return svg("<rect width=\"16\" height=\"16\" fill=\"" + colour + "\"/>");
+}
+
+QString Drawings::file(const QByteArray &content, const QString &ending)
+{
+    const QString name = newName(ending);
+    QFile file(name);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(name));
+    return name;
+}
+
+QString Drawings::newName(const QString &ending)
+{
+    static int number = 0;
+    return m_folder.filePath(u"drawing%1"_s.arg(++number) + ending);
+}
