@@ -218,7 +218,8 @@ void OvixSvgLabel::paintEventUpdate()
 
 QSize OvixSvgLabel::minimumSizeHint() const
 {
-    return sizeOf(m_normalKey.margins) + sizeOf(m_padding) + sizeOf(m_backgroundMargins);
+    const QSize sum = sizeOf(m_normalKey.margins) + sizeOf(m_padding) + sizeOf(m_backgroundMargins);
+    return sum.boundedTo(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
 }
 
 void OvixSvgLabel::paintEvent(QPaintEvent *event)
