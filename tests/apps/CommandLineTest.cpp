@@ -13,32 +13,23 @@ class CommandLineTest : public TestCase
     Q_OBJECT
 
 private slots:
-    void choosesTheTask_data()
-    {
-        QTest::addColumn<QString>("arguments");
-        QTest::addColumn<Task>("task");
-        QTest::newRow("nothing") << u""_s << Task::StartScreen;
-        QTest::newRow("folder") << u"town"_s << Task::StartScreen;
-        QTest::newRow("toolkit's options") << u"-platform offscreen -style fusion town"_s << Task::StartScreen;
-        QTest::newRow("gallery") << u"--gallery"_s << Task::Gallery;
-        QTest::newRow("gallery page") << u"--gallery icons"_s << Task::Gallery;
-        QTest::newRow("shots") << u"--shots out town"_s << Task::Shots;
-        QTest::newRow("help") << u"--shots out -h"_s << Task::Help;
-        QTest::newRow("version") << u"--version"_s << Task::Version;
-        QTest::newRow("unknown option") << u"--galery"_s << Task::Refuse;
-        QTest::newRow("no value") << u"--shots"_s << Task::Refuse;
-        QTest::newRow("empty value") << u"--shots="_s << Task::Refuse;
-        QTest::newRow("two folders") << u"town city"_s << Task::Refuse;
-        QTest::newRow("shots of the gallery too") << u"--gallery icons --shots out"_s << Task::Shots;
-        QTest::newRow("no number") << u"--shots out --scale big"_s << Task::Refuse;
-        QTest::newRow("scale out of range") << u"--shots out --scale 0"_s << Task::Refuse;
-    }
     void choosesTheTask()
     {
-        QFETCH(QString, arguments);
-        const CommandLine line = parse(arguments);
-        QTEST(line.task, "task");
-        QCOMPARE(line.message.isEmpty(), line.task != Task::Refuse && line.task != Task::Help);
+        const QList<std::pair<QString, Task>> lines = {
+            {u"-platform offscreen -style fusion town"_s, Task::StartScreen},
+            {u"--gallery"_s, Task::Gallery},
+            {u"--gallery icons --shots out"_s, Task::Shots},
+            {u"--shots out -h"_s, Task::Help},
+            {u"--galery"_s, Task::Refuse},
+            {u"--shots="_s, Task::Refuse},
+            {u"town city"_s, Task::Refuse},
+            {u"--shots out --scale big"_s, Task::Refuse},
+            {u"--shots out --scale 0"_s, Task::Refuse},
+        };
+        for (const auto &[arguments, task] : lines) {
+            QVERIFY2(parse(arguments).task == task, qPrintable(arguments));
+            QCOMPARE(parse(arguments).message.isEmpty(), task != Task::Refuse && task != Task::Help);
+        }
     }
 
     void pathsStartAtTheGivenFolder()

@@ -7,6 +7,7 @@
 #include "browser/VelmoScenesTable.h"
 #include "foundation/OvixSvgButton.h"
 
+#include <QLayout>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPointer>
@@ -22,6 +23,34 @@ template <class Part = QWidget> Part *part(const QWidget *whole, const char *nam
     return whole->findChild<Part *>(QString::fromLatin1(name));
 }
 
+/// "name, least-largest width" with its text and what else is special, for every widget in a layout.
+inline QStringList columnsOf(const QLayout *layout)
+{
+    QStringList columns;
+    for (int i = 0; i < layout->count(); ++i) {
+        const QWidget *column = layout->itemAt(i)->widget();
+        const QString largest =
+            column->maximumWidth() == QWIDGETSIZE_MAX ? QString() : QString::number(column->maximumWidth());
+        columns << u"%1, %2-%3"_s.arg(column->objectName()).arg(column->minimumWidth()).arg(largest);
+        if (const auto *label = qobject_cast<const QLabel *>(column)) {
+            columns.last() += label->text().isEmpty() ? QString() : u", "_s + label->text();
+            columns.last() += label->alignment() == Qt::AlignCenter ? u""_s : u", left"_s;
+        }
+        if (column->sizePolicy().horizontalPolicy() == QSizePolicy::MinimumExpanding)
+            columns.last() += u", expands"_s;
+        columns.last() += column->isHidden() ? u", hidden"_s : u""_s;
+    }
+    return columns;
+}
+
+inline QByteArrayList methodsOf(const QObject &object)
+{
+    QByteArrayList methods;
+    for (int i = object.metaObject()->methodOffset(); i < object.metaObject()->methodCount(); ++i)
+        methods << object.metaObject()->method(i).methodSignature();
+    return methods;
+}
+
 inline QListWidget *listOf(const VelmoScenesTable &table)
 {
     return part<QListWidget>(&table, "listWidget");
@@ -29,8 +58,7 @@ inline QListWidget *listOf(const VelmoScenesTable &table)
 
 inline VelmoSceneItem *rowAt(const VelmoScenesTable &table, int row)
 {
-    const QListWidget *list = listOf(table);
-    return qobject_cast<VelmoSceneItem *>(list->itemWidget(list->item(row)));
+    return qobject_cast<VelmoSceneItem *>(listOf(table)->itemWidget(listOf(table)->item(row)));
 }
 
 /// The button of the last row, or null.
@@ -43,17 +71,6 @@ inline OvixSvgButton *newSceneButton(const VelmoScenesTable &table)
 inline void add(VelmoScenesTable &table, const QString &name, bool compatible = true)
 {
     table.addScene(name, false, u"today"_s, u"Baked"_s, u"12"_s, u"3"_s, u"10s/25"_s, u"2.5"_s, compatible);
-}
-
-/// Adds scenes of these names; "!" before a name stands for a scene that is not compatible, "+" for a chosen one.
-inline void add(VelmoScenesTable &table, const QStringList &names)
-{
-    for (const QString &marked : names) {
-        const bool hasMark = marked.startsWith(u'!') || marked.startsWith(u'+');
-        add(table, marked.mid(hasMark), !marked.startsWith(u'!'));
-        if (marked.startsWith(u'+'))
-            table.setSceneEnabled(marked.mid(1), true);
-    }
 }
 
 /// Adds "scene 0", "scene 1" and so on.
@@ -93,13 +110,18 @@ inline QString flawOf(const VelmoScenesTable &table, bool hasAddButton = true)
     return {};
 }
 
+inline QLineEdit *startRenaming(const VelmoSceneItem *row)
+{
+    Gestures::doubleClick(part(row, "nameLabel"));
+    return part<QLineEdit>(row, "nameEdit");
+}
+
 /// Puts an active window on screen, with the pointer away from it.
 inline void showActive(QWidget &window)
 {
     Gestures::leave();
     Gestures::show(&window);
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    Gestures::focus(&window);
     QVERIFY(Events::untilIdle());
 }
 
@@ -125,11 +147,6 @@ struct ShownRow
     }
     QLabel *nameLabel() const { return part<QLabel>(row, "nameLabel"); }
     QLineEdit *nameEdit() const { return part<QLineEdit>(row, "nameEdit"); }
-    QLineEdit *startRenaming() const
-    {
-        Gestures::doubleClick(nameLabel());
-        return nameEdit();
-    }
 
     QWidget window;
     QPointer<VelmoSceneItem> row;
@@ -141,7 +158,8 @@ struct ShownTable
 {
     explicit ShownTable(const QStringList &names = {}) : table(new VelmoScenesTable(&window))
     {
-        add(*table, names);
+        for (const QString &name : names)
+            add(*table, name);
         table->setEditingEnabled(true);
         window.resize(760, 400);
         table->setGeometry(window.rect());
@@ -150,11 +168,6 @@ struct ShownTable
 
     QWidget *viewport() const { return listOf(*table)->viewport(); }
     VelmoSceneItem *row(int row) const { return rowAt(*table, row); }
-    QLineEdit *startRenaming(int row) const
-    {
-        Gestures::doubleClick(part(rowAt(*table, row), "nameLabel"));
-        return part<QLineEdit>(rowAt(*table, row), "nameEdit");
-    }
 
     QWidget window;
     QPointer<VelmoScenesTable> table;

@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
@@ -14,7 +13,6 @@
 #include <QTranslator>
 #include <QXmlStreamReader>
 
-#include <memory>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -25,9 +23,8 @@ namespace {
 const auto defaults = u";0;0;;(Undetected);"_s;
 const auto stadium = u"Baked;12;3;00:02:30 | 25;Stadium;2.4.0"_s;
 
-const QByteArray stadiumAttributes = "version='2.4.0' time-fps='00:02:30 | 25' bakestatus='Baked' actorcount='12' "
-                                     "vehiclescount='3' background-name='Stadium'";
-const QByteArray stadiumElement = "<scenemetadata " + stadiumAttributes + "/>";
+const QByteArray stadiumElement = "<scenemetadata version='2.4.0' time-fps='00:02:30 | 25' bakestatus='Baked' "
+                                  "actorcount='12' vehiclescount='3' background-name='Stadium'/>";
 
 QString fieldsOf(const VelmoSceneMetadataParser &parser)
 {
@@ -41,32 +38,26 @@ QByteArray scene(const QByteArray &content)
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<VelmoSerializer>" + content + "</VelmoSerializer>\n";
 }
 
-// Closes every message box that comes up with its first button and keeps what it said.
-class BoxReader : public QObject
+// Closes every message box that comes up and keeps what it said.
+class BoxReader : public QTimer
 {
 public:
     BoxReader()
     {
-        QObject::connect(&m_timer, &QTimer::timeout, this, &BoxReader::look);
-        m_timer.start(1);
+        callOnTimeout(this, [this] {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                texts << box->windowTitle() + u'\n' + box->text();
+                // A warning with one OK button, without parent, that shows its text as typed.
+                isSober = box->standardButtons() == QMessageBox::Ok && !box->parentWidget()
+                    && box->icon() == QMessageBox::Warning && box->textFormat() == Qt::PlainText;
+                box->accept();
+            }
+        });
+        start(1);
     }
 
     QStringList texts;
-    QList<bool> sober; // a warning with one OK button, without parent, that shows its text as typed
-
-private:
-    void look()
-    {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (!box || box->buttons().isEmpty())
-            return;
-        texts << box->windowTitle() + u'\n' + box->text();
-        sober << (box->standardButtons() == QMessageBox::Ok && box->buttons().size() == 1 && !box->parentWidget()
-                  && box->icon() == QMessageBox::Warning && box->textFormat() == Qt::PlainText);
-        box->buttons().constFirst()->click();
-    }
-
-    QTimer m_timer;
+    bool isSober = false;
 };
 
 class Marked : public QTranslator
@@ -158,10 +149,11 @@ private:
                 m_xml.readNext();
                 rest();
                 m_xml.readNext();
-            } else if (m_xml.isStartElement()) {
-                skip();
             } else {
+                const bool skips = m_xml.isStartElement();
                 m_xml.readNext();
+                if (skips)
+                    rest();
             }
         }
     }
@@ -182,24 +174,16 @@ private:
         m_parser.version = VelmoVersion(version);
     }
 
-    void skip()
-    {
-        m_xml.readNext();
-        rest();
-    }
-
     void rest()
     {
-        while (!m_xml.atEnd()) {
-            if (m_xml.isEndElement()) {
-                m_xml.readNext();
-                return;
-            }
-            if (m_xml.isStartElement())
-                skip();
-            else
-                m_xml.readNext();
+        while (!m_xml.atEnd() && !m_xml.isEndElement()) {
+            const bool skips = m_xml.isStartElement();
+            m_xml.readNext();
+            if (skips)
+                rest();
         }
+        if (!m_xml.atEnd())
+            m_xml.readNext();
     }
 
     QFile m_file;
@@ -214,19 +198,6 @@ class VelmoSceneMetadataParserTest : public TestCase
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        TestCase::init();
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(m_folder->isValid());
-    }
-
-    void cleanup()
-    {
-        m_folder.reset();
-        TestCase::cleanup();
-    }
-
     void readsTheMetadata_data()
     {
         QTest::addColumn<QByteArray>("document");
@@ -239,72 +210,36 @@ private slots:
         const QByteArray nine = "<scenemetadata actorcount='9'/>";
         const auto nineActors = u";9;0;;(Undetected);"_s;
 
-        row("all attributes", scene("\n" + metadata + "\n"), true, stadium);
-        row("no metadata", scene("\n<actors/>\n"), true, defaults);
-        row("no attributes", scene("<scenemetadata/>"), true, defaults);
-        row("empty values change nothing",
-            scene("<scenemetadata version='' time-fps='' bakestatus='' actorcount='' vehiclescount='' "
-                  "background-name=''/>"),
-            true, defaults);
+        row("empty values change nothing", scene("<scenemetadata version='' time-fps='' background-name=''/>"), true,
+            defaults);
         row("values stay texts", scene("<scenemetadata actorcount=' ' vehiclescount='007x' version='beta' more='1'/>"),
             true, u"; ;007x;;(Undetected);"_s);
-        row("any letters", scene("<scenemetadata bakestatus='&lt;b&gt;' background-name='\xd7\xa9\xf0\x9f\x9a\x97'/>"),
-            true, u"<b>;0;0;;\u05e9\U0001F697;"_s);
         row("byte order mark", "\xef\xbb\xbf" + scene(metadata), true, stadium);
         row("carriage returns are dropped", scene("\r\n<scenemetadata actorcount='1\r2'/>\r\n"), true,
             u";12;0;;(Undetected);"_s);
-
-        row("behind other elements", scene("<a x='1'>t<b><c/></b></a><d/>" + metadata), true, stadium);
-        row("before other elements", scene(metadata + "\n<a x='1'>t<b><c/></b></a><d/>"), true, stadium);
         row("only as a child of the root", scene("<a>" + nine + "<b>" + nine + "</b></a>" + metadata), true, stadium);
-        row("content is skipped",
-            scene("<scenemetadata actorcount='9'>t<a>" + metadata + "</a>" + metadata + "</scenemetadata>\n<b/>\n"),
-            true, nineActors);
         row("later values win", scene(metadata + "\n<a/>" + nine + "\n<scenemetadata version='3' actorcount=''/>\n"),
             true, u"Baked;9;3;00:02:30 | 25;Stadium;3"_s);
 
-        row("a comment behind", scene(nine + "<!-- -->" + metadata), true, stadium);
-        row("a text behind", scene(nine + "text" + metadata), true, stadium);
-        row("an instruction behind, then white space", scene(nine + "<?p?>\n" + metadata), true, stadium);
-        row("start tag lost: the next metadata", scene(nine + metadata), true, nineActors);
         row("start tag lost: its end is the root's", scene(nine + "<a/>\n"), true, nineActors);
         row("start tag lost: its content is walked", scene(nine + "<a><b/>" + metadata + "\n</a>"), true, stadium);
         row("start tag lost: one element more is no root", scene(nine + "<a/>" + metadata), false, nineActors);
-        row("start tag lost: a root in its place",
-            scene(nine + "<a/><VelmoSerializer>" + metadata + "</VelmoSerializer>"), true, stadium);
 
-        row("another root", "<Project>" + metadata + "</Project>", false, defaults);
         row("another letter case", "<velmoserializer>" + metadata + "</velmoserializer>", false, defaults);
-        row("the root below another", "<a><VelmoSerializer>" + metadata + "</VelmoSerializer></a>", false, defaults);
-        row("no element", "<!-- -->\n", false, defaults);
         row("empty file", "", false, defaults);
         row("no text at all", QByteArray("\0\1\xfe\xff<\0>", 7), false, defaults);
-
-        row("cut in the metadata", scene(metadata).first(100), false, defaults);
-        row("cut behind the metadata", scene(metadata + "\n<a>").chopped(20), false, stadium);
-        row("cut in the last tag", scene(metadata).chopped(3), false, stadium);
-        row("crossed tags", scene(metadata + "\n<a><b></a></b>"), false, stadium);
         row("the same attribute twice", scene("<scenemetadata actorcount='9' actorcount='8'/>"), false, defaults);
-        row("text behind the root", scene(metadata) + "text", false, stadium);
-        row("unknown entity", scene(metadata + " &a;"), false, stadium);
 
-        const auto entities = [](const QByteArray &declarations, const QByteArray &content) {
-            return "<!DOCTYPE v [" + declarations + "]><VelmoSerializer>" + content + "</VelmoSerializer>";
-        };
         QByteArray laughs = "<!ENTITY l0 'ha'>";
         for (int i = 1; i < 30; ++i) {
             const QByteArray before = "&l" + QByteArray::number(i - 1) + ";";
             laughs += "<!ENTITY l" + QByteArray::number(i) + " '" + before.repeated(10) + "'>";
         }
-        row("own entity", entities("<!ENTITY n 'nine'>", "<scenemetadata actorcount='&n;'/>"), true,
-            u";nine;0;;(Undetected);"_s);
         row("entity from another file",
-            entities("<!ENTITY f SYSTEM 'file:///etc/hostname'>", metadata + "\n&f;" + nine + "\n&f;"), true,
+            "<!DOCTYPE v [<!ENTITY f SYSTEM 'file:///etc/hostname'>]>" + scene(metadata + "\n&f;" + nine).mid(39), true,
             u"Baked;9;3;00:02:30 | 25;Stadium;2.4.0"_s);
-        row("entity of itself", entities("<!ENTITY a '&b;'><!ENTITY b '&a;'>", metadata + " &a;"), false, stadium);
-        row("multiplying entities in the text", entities(laughs, metadata + " &l29;"), false, stadium);
-        row("multiplying entities in a value", entities(laughs, "<scenemetadata actorcount='&l29;'/>"), false,
-            defaults);
+        row("multiplying entities",
+            "<!DOCTYPE v [" + laughs + "]>" + scene("<scenemetadata actorcount='&l29;'/>").mid(39), false, defaults);
     }
     void readsTheMetadata()
     {
@@ -317,60 +252,31 @@ private slots:
         QCOMPARE(boxes.texts, QStringList());
     }
 
-    void leavesTheDefaultsToItsCaller()
+    void takesAMillionLevelsAndHugeValues()
     {
-        VelmoSceneMetadataParser parser;
-        QVERIFY(parser.parse(write(scene(""))));
-        QCOMPARE(fieldsOf(parser), u";;;;;"_s);
-    }
-
-    void takesAMillionLevels_data()
-    {
-        QTest::addColumn<QByteArray>("before");
-        QTest::addColumn<QByteArray>("after");
-        QTest::addColumn<bool>("ok");
         const QByteArray up = QByteArray("<a>").repeated(1'000'000);
         const QByteArray down = QByteArray("</a>").repeated(1'000'000);
-        QTest::newRow("in front") << up + down << QByteArray() << true;
-        QTest::newRow("behind, cut") << QByteArray() << "\n" + up << false;
-        QTest::newRow("start tag lost") << QByteArray() << up + down << true;
-    }
-    void takesAMillionLevels()
-    {
-        QFETCH(QByteArray, before);
-        QFETCH(QByteArray, after);
+        const QByteArray name(10'000'000, 'n');
+        const QByteArray huge = "<scenemetadata background-name='" + name + "'/><a b='" + name + "'/>";
         auto parser = VelmoSceneMetadataParser::withDefaults();
-        QTEST(parser.parse(write(scene(before + stadiumElement + after))), "ok");
+        QVERIFY(parser.parse(write(scene(huge))));
+        QVERIFY(parser.backgroundName == QString::fromLatin1(name));
+        QVERIFY(parser.parse(write(scene(up + down + stadiumElement))));
+        QVERIFY(parser.parse(write(scene(stadiumElement + up + down)))); // its start tag is lost
+        QVERIFY(!parser.parse(write(scene(stadiumElement + "\n" + up))));
         QCOMPARE(fieldsOf(parser), stadium);
     }
 
-    void takesHugeValues()
+    void warnsOnlyOfAFileThatIsThere()
     {
-        const QByteArray name(10'000'000, 'n');
-        auto parser = VelmoSceneMetadataParser::withDefaults();
-        QVERIFY(parser.parse(write(scene("<scenemetadata background-name='" + name + "'/><a b='" + name + "'/>"))));
-        QVERIFY(parser.backgroundName == QString::fromLatin1(name));
-    }
-
-    void passesOverAMissingFileInSilence()
-    {
+        const QString folder = m_folder.filePath(u"a &amp; folder"_s);
+        QVERIFY(QDir().mkdir(folder));
         BoxReader boxes;
         auto parser = VelmoSceneMetadataParser::withDefaults();
-        for (const QString &path : {QString(), m_folder->filePath(u"none.vscene"_s), u"a\0b"_s})
+        for (const QString &path : {QString(), m_folder.filePath(u"none.vscene"_s), u"a\0b"_s, folder})
             QVERIFY(!parser.parse(path));
-        QCOMPARE(fieldsOf(parser), defaults);
-        QCOMPARE(boxes.texts, QStringList());
-    }
-
-    void warnsOfAFileThatCannotBeOpened()
-    {
-        const QString path = m_folder->filePath(u"a &amp; folder"_s);
-        QVERIFY(QDir().mkdir(path));
-        BoxReader boxes;
-        auto parser = VelmoSceneMetadataParser::withDefaults();
-        QVERIFY(!parser.parse(path));
-        QCOMPARE(boxes.texts, QStringList(u"Not valid xml file.\n"_s + path + u"file can't be read."_s));
-        QCOMPARE(boxes.sober, QList<bool>{true});
+        QCOMPARE(boxes.texts, QStringList(u"Not valid xml file.\n"_s + folder + u"file can't be read."_s));
+        QVERIFY(boxes.isSober);
         QCOMPARE(fieldsOf(parser), defaults);
     }
 
@@ -383,17 +289,16 @@ private slots:
         QVERIFY(QCoreApplication::installTranslator(&translator));
         BoxReader boxes;
         std::thread worker([&] {
-            for (const QString &path : {good, m_folder->path()})
+            for (const QString &path : {good, m_folder.path()})
                 results << parser.read(path);
         });
         worker.join();
         QCoreApplication::processEvents();
 
         QCOMPARE(fieldsOf(parser), stadium);
-        QVERIFY(results.at(0).ok && results.at(0).warningTitle.isEmpty() && results.at(0).warningText.isEmpty());
-        QVERIFY(!results.at(1).ok);
+        QVERIFY(results.at(0).ok && results.at(0).warningText.isEmpty() && !results.at(1).ok);
         QCOMPARE(results.at(1).warningTitle, u"[VelmoSceneMetadataParser|Not valid xml file.]"_s);
-        QCOMPARE(results.at(1).warningText, m_folder->path() + u"[VelmoSceneMetadataParser|file can't be read.]"_s);
+        QCOMPARE(results.at(1).warningText, m_folder.path() + u"[VelmoSceneMetadataParser|file can't be read.]"_s);
         QCOMPARE(boxes.texts, QStringList());
     }
 
@@ -428,14 +333,14 @@ private slots:
 private:
     QString write(const QByteArray &document)
     {
-        const QString path = m_folder->filePath(u"scene.vscene"_s);
+        const QString path = m_folder.filePath(u"scene.vscene"_s);
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly) || file.write(document) != document.size())
             qFatal("The scene file cannot be written.");
         return path;
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    QTemporaryDir m_folder;
 };
 
 VELMO_TEST_MAIN(VelmoSceneMetadataParserTest)

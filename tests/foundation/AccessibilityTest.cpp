@@ -9,12 +9,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <functional>
-
 using namespace Qt::StringLiterals;
-
-using Make = std::function<QWidget *()>;
-Q_DECLARE_METATYPE(Make)
 
 namespace {
 
@@ -36,35 +31,6 @@ bool press(QWidget *widget)
     return offered;
 }
 
-Make iconButton(const QString &filename)
-{
-    return [filename] {
-        auto *button = new OvixSvgButton;
-        button->setFilename(filename);
-        return button;
-    };
-}
-
-Make clickableLabel(const QString &text)
-{
-    return [text] { return new QClickableLabel(text); };
-}
-
-QWidget *labelledWidget()
-{
-    auto *widget = new QClickableWidget;
-    new QLabel(widget); // without a text
-    new QLabel(u"Open scene"_s, widget);
-    return widget;
-}
-
-QWidget *icon()
-{
-    auto *label = new OvixSvgLabel;
-    label->setFilename(u":/Windows/Warning"_s);
-    return label;
-}
-
 } // namespace
 
 class AccessibilityTest : public TestCase
@@ -72,33 +38,36 @@ class AccessibilityTest : public TestCase
     Q_OBJECT
 
 private slots:
-    void saysWhatItIsAndWhatFor_data()
-    {
-        QTest::addColumn<Make>("make");
-        QTest::addColumn<QAccessible::Role>("role");
-        QTest::addColumn<QString>("purpose");
-        QTest::newRow("icon button") << iconButton(u":/Windows/ClearCross"_s) << QAccessible::Button
-                                     << u"Clear cross"_s;
-        QTest::newRow("icon button from a file")
-            << iconButton(u"icons/Delete.v2.svg"_s) << QAccessible::Button << u"Delete"_s;
-        QTest::newRow("icon button without an icon") << iconButton(QString()) << QAccessible::Button << QString();
-        QTest::newRow("clickable label") << clickableLabel(u"Open scene"_s) << QAccessible::Button << u"Open scene"_s;
-        QTest::newRow("clickable label, marked up")
-            << clickableLabel(u"<a href='x'>Open <b>scene</b></a>"_s) << QAccessible::Button << u"Open scene"_s;
-        QTest::newRow("clickable widget") << Make(labelledWidget) << QAccessible::Button << u"Open scene"_s;
-        QTest::newRow("icon") << Make(icon) << QAccessible::Graphic << QString();
-    }
     void saysWhatItIsAndWhatFor()
     {
-        QFETCH(Make, make);
-        const std::unique_ptr<QWidget> widget(make());
-        QTEST(interfaceOf(widget.get())->role(), "role");
-        QTEST(nameOf(widget.get()), "purpose");
-        widget->setToolTip(u"tip"_s);
-        QCOMPARE(nameOf(widget.get()), u"tip"_s);
-        widget->setAccessibleName(u"name"_s);
-        QCOMPARE(nameOf(widget.get()), u"name"_s);
-        QCOMPARE(interfaceOf(widget.get())->text(QAccessible::Description), u"tip"_s);
+        OvixSvgButton button, fileButton;
+        button.setFilename(u":/Windows/ClearCross"_s);
+        fileButton.setFilename(u"icons/Delete.v2.svg"_s);
+        OvixSvgLabel icon;
+        icon.setFilename(u":/Windows/Warning"_s);
+        QClickableLabel label(u"<a href='x'>Open <b>scene</b></a>"_s);
+        QClickableWidget widget;
+        new QLabel(&widget); // without a text
+        new QLabel(u"Open scene"_s, &widget);
+        struct Said
+        {
+            QWidget *by;
+            QAccessible::Role role;
+            QString purpose;
+        };
+        for (const auto &[by, role, purpose] :
+             {Said{&button, QAccessible::Button, u"Clear cross"_s}, Said{&fileButton, QAccessible::Button, u"Delete"_s},
+              Said{&icon, QAccessible::Graphic, {}}, Said{&label, QAccessible::Button, u"Open scene"_s},
+              Said{&widget, QAccessible::Button, u"Open scene"_s}}) {
+            QCOMPARE(interfaceOf(by)->role(), role);
+            QCOMPARE(nameOf(by), purpose);
+            by->setToolTip(u"tip"_s);
+            QCOMPARE(nameOf(by), u"tip"_s);
+            by->setAccessibleName(u"name"_s);
+            QCOMPARE(nameOf(by), u"name"_s);
+            QCOMPARE(interfaceOf(by)->text(QAccessible::Description), u"tip"_s);
+        }
+        QVERIFY(!press(&icon));
     }
 
     void checkableButtonsSayTheirState()
@@ -125,13 +94,12 @@ private slots:
         QVERIFY(press(&button));
         QCOMPARE(clicked.size(), 1);
         QVERIFY(button.isChecked());
-        button.setIgnoreSingleClick(true);
-        QVERIFY(!press(&button));
-        button.setIgnoreSingleClick(false);
         button.setEnabled(false);
         QVERIFY(!press(&button));
+        button.setEnabled(true);
+        button.setIgnoreSingleClick(true);
+        QVERIFY(!press(&button));
         QCOMPARE(clicked.size(), 1);
-        QVERIFY(button.isChecked());
 
         QClickableLabel label;
         QStringList told;
@@ -142,9 +110,6 @@ private slots:
         label.setIgnoreSingleClick(true);
         QVERIFY(!press(&label));
         QCOMPARE(interfaceOf(&label)->role(), QAccessible::StaticText);
-        label.setIgnoreSingleClick(false);
-        label.setEnabled(false);
-        QVERIFY(!press(&label));
         QCOMPARE(told.join(u' '), u"clicked released"_s);
 
         QClickableWidget widget;
@@ -167,13 +132,6 @@ private slots:
         press(label);
         press(widget);
         QVERIFY(!button && !label && !widget);
-    }
-
-    void anIconCannotBePressed()
-    {
-        const std::unique_ptr<QWidget> label(icon());
-        const QStringList actions = interfaceOf(label.get())->actionInterface()->actionNames();
-        QVERIFY(!actions.contains(QAccessibleActionInterface::pressAction()));
     }
 };
 

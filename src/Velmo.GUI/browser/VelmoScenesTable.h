@@ -75,6 +75,7 @@ public:
     using QWidget::resize;
 
 signals:
+    /// A receiver that is done with the table deletes it later: the list is still at work.
     void selectionChanged();
     /// The add button has been clicked.
     void newScenePressed();
