@@ -12,7 +12,7 @@ check_packages=(clang-format clang-tidy)
 
 # need_packages <package>...: installs those that are missing. Where all are there, nothing is asked of the network.
 need_packages() {
-    if ! command -v dpkg-query apt-get >/dev/null; then
+    if ! command -v apt-get >/dev/null; then
         echo "This is not Debian: the following, or what matches them here, have to be there: $*"
         return
     fi

@@ -1,0 +1,3 @@
+#include "VelmoPercentListener.h"
+
+VelmoPercentListener::~VelmoPercentListener() = default;

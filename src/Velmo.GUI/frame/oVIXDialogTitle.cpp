@@ -1,0 +1,95 @@
+#include "frame/oVIXDialogTitle.h"
+
+#include "foundation/OvixSvgButton.h"
+#include "frame/TitleText.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMouseEvent>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int titleHeight = 30;
+constexpr int closeSide = 32;
+constexpr int closeMargin = 4;
+
+QString titleSheet()
+{
+    return u"oVIXDialogTitle {\tbackground:rgb(28,28,28);}QLabel {\tfont-family:\"Inter\";}QGroupBox{\tfont-size:15px;}"_s;
+}
+
+} // namespace
+
+oVIXDialogTitle::oVIXDialogTitle(QWidget *parent)
+    : QFrame(parent), m_closeButton(new OvixSvgButton(this)), m_titleLabel(new QLabel(this))
+{
+    m_titleLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_titleLabel->setTextFormat(Qt::RichText);
+
+    m_closeButton->setFixedSize(closeSide, closeSide);
+    m_closeButton->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    m_closeButton->setColorScheme(OvixSvgLabel::Charcoal);
+    m_closeButton->setHoverVisible(true);
+    m_closeButton->setFilename(u":/Windows/Close"_s);
+    m_closeButton->setMargins(closeMargin);
+    m_closeButton->setAccessibleName(tr("Close"));
+    connect(m_closeButton, &OvixSvgButton::clicked, this, &oVIXDialogTitle::closeClicked);
+
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(15, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(m_titleLabel);
+    row->addItem(new QSpacerItem(10, 10, QSizePolicy::Expanding, QSizePolicy::Fixed));
+    row->addWidget(m_closeButton);
+
+    setFixedHeight(titleHeight);
+    setStyleSheet(titleSheet());
+}
+
+oVIXDialogTitle::~oVIXDialogTitle() = default;
+
+void oVIXDialogTitle::setTitle(QString title, QString subtitle)
+{
+    QFont font(u"Inter"_s);
+    font.setPixelSize(10);
+    m_titleLabel->setFont(font);
+    m_titleLabel->setText(titleText(title, subtitle));
+}
+
+void oVIXDialogTitle::setDragEnabled(bool enabled)
+{
+    m_dragEnabled = enabled;
+    m_dragOrigin = QPoint();
+}
+
+void oVIXDialogTitle::setCloseEnabled(bool enabled)
+{
+    m_closeButton->setEnabled(enabled);
+}
+
+void oVIXDialogTitle::mousePressEvent(QMouseEvent *event)
+{
+    event->setAccepted(m_dragEnabled && event->button() == Qt::LeftButton);
+    if (event->isAccepted())
+        m_dragOrigin = event->globalPosition().toPoint();
+}
+
+void oVIXDialogTitle::mouseMoveEvent(QMouseEvent *event)
+{
+    event->setAccepted(m_dragEnabled && (event->buttons() & Qt::LeftButton) && !m_dragOrigin.isNull());
+    if (!event->isAccepted())
+        return;
+    const QPoint position = event->globalPosition().toPoint();
+    if (parentWidget())
+        parentWidget()->move(parentWidget()->pos() + position - m_dragOrigin);
+    m_dragOrigin = position;
+}
+
+void oVIXDialogTitle::mouseReleaseEvent(QMouseEvent *event)
+{
+    event->setAccepted(m_dragEnabled && event->button() == Qt::LeftButton && !m_dragOrigin.isNull());
+    if (event->isAccepted())
+        m_dragOrigin = QPoint();
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "VelmoGuiExport.h"
+
+#include <QFrame>
+#include <QPoint>
+
+class OvixSvgButton;
+class QLabel;
+
+/// The title strip of a frameless dialog: white title, grey subtitle, close button. 30 logical pixels high. With
+/// dragging on, the strip moves its parent widget.
+class VELMO_GUI_EXPORT oVIXDialogTitle : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit oVIXDialogTitle(QWidget *parent);
+    ~oVIXDialogTitle() override;
+
+    /// Both are plain text, shown as typed on one line.
+    void setTitle(QString title, QString subtitle);
+    /// Off by default.
+    void setDragEnabled(bool enabled);
+    /// Enables or disables the close button.
+    void setCloseEnabled(bool enabled);
+
+signals:
+    void closeClicked();
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    OvixSvgButton *m_closeButton;
+    QLabel *m_titleLabel;
+    QPoint m_dragOrigin; // null: no drag
+    bool m_dragEnabled = false;
+};

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "VelmoGuiExport.h"
+
+#include <QMainWindow>
+#include <QPointer>
+
+#include <array>
+#include <functional>
+
+class QScreen;
+class QSizeGrip;
+class oVIXGrip;
+class oVIXWindowBlock;
+class oVIXWindowWaitGlobal;
+
+/// Base of the application's main window: what a frameless window needs to be resized, kept busy and blocked.
+///
+/// It owns four corner grips, four edge grips, the busy overlay and the dimming overlay that shows while a modal dialog
+/// blocks the window. It sets no window flags: the application makes it frameless and gives it a title bar
+/// (`oVIXTitleBar`). An application-wide event filter while it lives. GUI thread only.
+class VELMO_GUI_EXPORT oVIXMainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    oVIXMainWindow();
+    /// @p screen is kept for subclasses.
+    oVIXMainWindow(QWidget *parent, QScreen *screen);
+    ~oVIXMainWindow() override;
+
+    /// What subclasses do when a wait starts. @p delayed: the overlay shows only after its start delay.
+    virtual void startWaitEvent(bool delayed);
+    virtual void endWaitEvent();
+    /// Called before the block overlay shows, and after it is hidden.
+    virtual void showWindowBlockEvent();
+    virtual void hideWindowBlockEvent();
+    /// Side of the square corner grips in logical pixels: 5. The edge strips do not depend on it.
+    virtual int gripSize() const;
+    virtual void updateSceneTabs();
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+    /// Enables or disables all eight grips.
+    void setGripsEnabled(bool enabled);
+
+    oVIXWindowBlock *getWindowBlock() const;
+    oVIXWindowWaitGlobal *getWindowWait() const;
+
+    /// Tries an operation that may fail while another program holds a resource, until it succeeds, @p attempts are used
+    /// up, or the user holds Escape in this application. Returns the last result; false for fewer than one attempt or
+    /// an empty @p attempt.
+    ///
+    /// The calling thread sleeps @p sleepMsecs milliseconds after every attempt, a successful one included. @p
+    /// cancelled may be null; it tells whether the user has stopped the attempts.
+    bool attemptMultipleTimes(int attempts, int sleepMsecs, const std::function<bool()> &attempt, bool *cancelled);
+
+signals:
+    /// The window is being closed.
+    void closed();
+
+public slots:
+    /// Shows the busy overlay from the next progress report on, without text or percent.
+    void startWait();
+    /// The same with a line of text, empty at first.
+    void startWaitWithText();
+    /// The same with a percentage, 0 at first.
+    void startWaitWithPercent();
+    /// The same as `startWait`, but the overlay shows at the first report after a second.
+    void startWaitDelayed();
+    /// Ends the wait; nothing when none runs.
+    void endWait();
+    void showWindowBlock();
+    void hideWindowBlock();
+    /// One step of an edge grip. Nothing while the window is maximised.
+    void resizeByGrip(QPoint p, bool invert);
+    void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void startWaiting(bool delayed);
+
+    // Grips are deleted when closed.
+    QPointer<QSizeGrip> m_bottomLeft;
+    QPointer<QSizeGrip> m_bottomRight;
+    QPointer<QSizeGrip> m_topLeft;
+    QPointer<QSizeGrip> m_topRight;
+    std::array<QPointer<oVIXGrip>, 4> m_edges; // top, bottom, left, right
+    QPointer<oVIXWindowBlock> m_windowBlock;
+    QPointer<oVIXWindowWaitGlobal> m_windowWait;
+    QPointer<QScreen> m_screen;
+};

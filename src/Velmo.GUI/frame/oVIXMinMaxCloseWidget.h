@@ -1,0 +1,41 @@
+#pragma once
+
+#include "VelmoGuiExport.h"
+
+#include <QWidget>
+
+#include <memory>
+
+class QLayoutItem;
+
+namespace Ui {
+class oVIXMinMaxCloseWidget;
+}
+
+/// The row of window buttons: minimise, maximise or restore, close. It reports clicks; the application changes the
+/// window and tells the row with `setMaximized`. 32 logical pixels high.
+class VELMO_GUI_EXPORT oVIXMinMaxCloseWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    oVIXMinMaxCloseWidget(bool showMinimize, bool showMaximize, bool showClose, QWidget *parent);
+    ~oVIXMinMaxCloseWidget() override;
+
+    /// Whether the middle button shows "restore".
+    void setMaximized(bool maximized);
+    /// Hides all three buttons; the row keeps its height.
+    void hideCloseButtons();
+
+    /// Puts another control into the row. @p index counts from the left; the row owns the control. Null is ignored.
+    void insertWidget(QWidget *widget, int index);
+    void insertItem(QLayoutItem *item, int index);
+
+signals:
+    void s_minimize();
+    void s_maximize();
+    void s_close();
+
+private:
+    std::unique_ptr<Ui::oVIXMinMaxCloseWidget> m_ui;
+};

@@ -1,0 +1,310 @@
+#include "frame/oVIXWindowWait.h"
+
+#include "foundation/OvixSvgKey.h"
+#include "foundation/OvixSvgRenderer.h"
+#include "frame/UserAbort.h"
+
+#include <QCoreApplication>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QThread>
+#include <QTimerEvent>
+
+#include <cmath>
+#include <mutex>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int tickMsecs = 50;
+constexpr int eventsThrottleMsecs = 50;
+constexpr int markSide = 128;
+constexpr int fontPixelSize = 20;
+
+QRect markRect(const QRect &pane)
+{
+    return {pane.width() / 2 - markSide / 2, pane.height() / 2 - markSide / 2, markSide, markSide};
+}
+
+/// From the first to the last row, both included.
+QRect band(const QRect &pane, int firstRow, int lastRow)
+{
+    return {0, pane.height() / 2 + firstRow, pane.width(), lastRow - firstRow + 1};
+}
+
+QRect textBand(const QRect &pane)
+{
+    return band(pane, 76, 115);
+}
+
+QRect percentBand(const QRect &pane)
+{
+    return band(pane, -10, 9);
+}
+
+void drawLine(QPainter &painter, const QRect &line, const QString &text)
+{
+    const QString fitting = painter.fontMetrics().elidedText(text, Qt::ElideRight, line.width());
+    painter.drawText(line, Qt::AlignHCenter | Qt::AlignVCenter, fitting);
+}
+
+} // namespace
+
+/// What the operation has said, from whatever thread.
+struct oVIXWindowWait::Reported
+{
+    std::mutex textMutex;
+    QString text;
+    std::mutex percentMutex;
+    int percent = 0;
+};
+
+oVIXWindowWait::oVIXWindowWait(QWidget *parent) : oVIXWindowBlock(parent), m_reported(new Reported)
+{
+    m_frameClock.start();
+    m_eventsThrottle.start();
+}
+
+oVIXWindowWait::~oVIXWindowWait()
+{
+    oVIXWindowWait::endWait();
+}
+
+void oVIXWindowWait::startWait()
+{
+    startTicks();
+    if (isVisible())
+        return;
+    rewindMovie();
+    show();
+}
+
+void oVIXWindowWait::endWait()
+{
+    hide();
+    stopTicks();
+    repaintWidgetsToUpdate();
+}
+
+void oVIXWindowWait::setText(QString text)
+{
+    const std::lock_guard lock(m_reported->textMutex);
+    m_reported->text = text;
+}
+
+QString oVIXWindowWait::getText()
+{
+    const std::lock_guard lock(m_reported->textMutex);
+    return m_reported->text;
+}
+
+bool oVIXWindowWait::isTextEmpty()
+{
+    return getText().isEmpty();
+}
+
+void oVIXWindowWait::setPercent(int percent)
+{
+    const std::lock_guard lock(m_reported->percentMutex);
+    m_reported->percent = percent;
+}
+
+int oVIXWindowWait::getPercent()
+{
+    const std::lock_guard lock(m_reported->percentMutex);
+    return m_reported->percent;
+}
+
+void oVIXWindowWait::percentEvent(int percent)
+{
+    setPercent(percent);
+}
+
+void oVIXWindowWait::setTextVisible(bool visible)
+{
+    m_textVisible = visible;
+}
+
+bool oVIXWindowWait::isTextVisible() const
+{
+    return m_textVisible;
+}
+
+void oVIXWindowWait::setPercentVisible(bool visible)
+{
+    m_percentVisible = visible;
+}
+
+bool oVIXWindowWait::isPercentVisible() const
+{
+    return m_percentVisible;
+}
+
+void oVIXWindowWait::addWidgetToUpdate(QWidget *widget)
+{
+    if (widget)
+        m_widgetsToUpdate.append(widget);
+}
+
+bool oVIXWindowWait::checkManualAbort()
+{
+    return userHoldsEscape();
+}
+
+void oVIXWindowWait::progressEvent(QString text)
+{
+    if (!isOnGuiThread()) {
+        if (!text.isEmpty())
+            setText(text);
+        return;
+    }
+
+    show();
+    if (!text.isEmpty())
+        setText(text);
+    // A paint must not start inside another one, nor a report process events inside a report.
+    if (isPainting())
+        update();
+    else
+        repaint();
+    if (m_reporting || m_eventsThrottle.elapsed() < eventsThrottleMsecs)
+        return;
+
+    const QPointer<oVIXWindowWait> alive(this);
+    m_reporting = true;
+    m_eventsThrottle.restart();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (!alive)
+        return;
+    m_reporting = false;
+    m_eventsThrottle.restart();
+}
+
+void oVIXWindowWait::progressEvent(int percent)
+{
+    VelmoProgressListener::progressEvent(percent);
+    percentEvent(percent);
+}
+
+void oVIXWindowWait::paintEvent(QPaintEvent *event)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintBackground(painter);
+
+    QFont font(u"Inter"_s);
+    font.setPixelSize(fontPixelSize);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+
+    const QRegion &region = event->region();
+    if (region.intersects(markRect(rect())))
+        drawMark(painter);
+    if (region.intersects(textBand(rect())))
+        drawLine(painter, textBand(rect()), shownText());
+    if (region.intersects(percentBand(rect())))
+        drawLine(painter, percentBand(rect()), shownPercent());
+
+    // What has been painted only in part still counts as changed.
+    const auto isPainted = [&region](const QRect &part) { return QRegion(part).subtracted(region).isEmpty(); };
+    if (isPainted(markRect(rect())))
+        m_paintedFrame = currentFrame();
+    if (isPainted(textBand(rect())))
+        m_paintedText = shownText();
+    if (isPainted(percentBand(rect())))
+        m_paintedPercent = shownPercent();
+}
+
+void oVIXWindowWait::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_timerId) {
+        oVIXWindowBlock::timerEvent(event);
+        return;
+    }
+    if (!isVisible())
+        return;
+    repaintWidgetsToUpdate();
+    m_moviePosition = std::fmod(m_moviePosition + double(m_frameClock.restart()) / 1000.0, MovieFrames / m_movieRate);
+    // Almost all of a full repaint is the widgets under the pane.
+    const QRegion changed = changedSincePaint();
+    if (!changed.isEmpty())
+        update(changed);
+}
+
+void oVIXWindowWait::startTicks()
+{
+    if (m_timerId < 0)
+        m_timerId = startTimer(tickMsecs, Qt::CoarseTimer);
+}
+
+void oVIXWindowWait::rewindMovie()
+{
+    m_moviePosition = 0.0;
+    m_frameClock.restart();
+}
+
+bool oVIXWindowWait::isOnGuiThread() const
+{
+    return QThread::currentThread() == thread();
+}
+
+void oVIXWindowWait::stopTicks()
+{
+    if (m_timerId >= 0)
+        killTimer(m_timerId);
+    m_timerId = -1;
+}
+
+void oVIXWindowWait::repaintWidgetsToUpdate()
+{
+    for (const QPointer<QWidget> &widget : std::as_const(m_widgetsToUpdate)) {
+        if (widget)
+            widget->update();
+    }
+}
+
+int oVIXWindowWait::currentFrame() const
+{
+    return std::clamp(int(m_moviePosition * m_movieRate), 0, MovieFrames - 1);
+}
+
+QRegion oVIXWindowWait::changedSincePaint()
+{
+    QRegion changed;
+    if (currentFrame() != m_paintedFrame)
+        changed += markRect(rect());
+    if (shownText() != m_paintedText)
+        changed += textBand(rect());
+    if (shownPercent() != m_paintedPercent)
+        changed += percentBand(rect());
+    return changed;
+}
+
+void oVIXWindowWait::drawMark(QPainter &painter) const
+{
+    OvixSvgKey key;
+    key.devicePixelRatio = devicePixelRatio();
+    key.size = QSize(markSide, markSide);
+    key.layers = {{u":/Windows/Wait"_s, {}, {u"wait%1"_s.arg(currentFrame())}}};
+    painter.drawPixmap(markRect(rect()).topLeft(), OvixSvgRenderer::get(key));
+}
+
+QString oVIXWindowWait::shownText()
+{
+    return m_textVisible ? getText() : QString();
+}
+
+QString oVIXWindowWait::shownPercent()
+{
+    return m_percentVisible ? u"%1%"_s.arg(getPercent()) : QString();
+}
+
+bool oVIXWindowWait::isPainting() const
+{
+    for (const QWidget *widget = this; widget; widget = widget->isWindow() ? nullptr : widget->parentWidget()) {
+        if (widget->testAttribute(Qt::WA_WState_InPaintEvent))
+            return true;
+    }
+    return false;
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "frame/oVIXWindowWait.h"
+
+#include <atomic>
+
+class StartDelay;
+
+/// The main window's wait overlay. It shows at the first progress report on the GUI thread, with a delayed start at the
+/// first one after a second, so that short operations never show it.
+class VELMO_GUI_EXPORT oVIXWindowWaitGlobal : public oVIXWindowWait
+{
+    Q_OBJECT
+
+public:
+    /// The delay of a delayed start, in milliseconds.
+    static constexpr int DelayStartMsecs = 1000;
+
+    explicit oVIXWindowWaitGlobal(QWidget *parent);
+    ~oVIXWindowWaitGlobal() override;
+
+    /// Begins a wait without showing it yet. Nothing but the tick while one runs.
+    void startWait(bool delayed);
+    void endWait() override;
+    bool isRunning() const;
+
+    /// Number of the delay thread that runs, 0 when there is none. Numbers count up and are not used twice.
+    unsigned long getWinThreadID();
+    /// Ends the delay at once. From any thread.
+    void timeElapsedEvent();
+    /// @p callback is called with @p context at the start of every progress report made on the GUI thread. Null for
+    /// none.
+    void applicationCrashed(void *context, void (*callback)(void *));
+
+    void progressEvent(QString text) override;
+    using oVIXWindowWait::progressEvent;
+
+signals:
+    /// The start delay is over; emitted once a wait, by the first report on the GUI thread that finds it over. A report
+    /// from another thread in between takes the announcement away.
+    void delayFinished();
+
+private:
+    using oVIXWindowWait::startWait;
+
+    std::unique_ptr<StartDelay> m_delay;
+    std::atomic<bool> m_running = false;
+    void *m_callbackContext = nullptr;
+    void (*m_callback)(void *) = nullptr;
+};
