@@ -1,5 +1,6 @@
 // What a picture from the icon cache costs: found, and made for the first time.
 
+#include "Limited.h"
 #include "foundation/OvixSvgKey.h"
 #include "foundation/OvixSvgRenderer.h"
 
@@ -117,9 +118,9 @@ void missByHand(benchmark::State &state)
 
 } // namespace
 
-BENCHMARK(hit)->Name("icon_hit_vs_pixmap_cache/ours")->Arg(1)->Arg(200)->Arg(2000);
+BENCHMARK(limited<hit, 100>)->Name("icon_hit_vs_pixmap_cache/ours")->Arg(1)->Arg(200)->Arg(2000);
 BENCHMARK(hitInPixmapCache)->Name("icon_hit_vs_pixmap_cache/plain")->Arg(1)->Arg(200)->Arg(2000);
-BENCHMARK(hit)->Name("icon_hit_vs_kept_icon/ours")->Arg(200);
+BENCHMARK(limited<hit, 30>)->Name("icon_hit_vs_kept_icon/ours")->Arg(200);
 BENCHMARK(hitInKeptIcon)->Name("icon_hit_vs_kept_icon/plain")->Arg(200);
-BENCHMARK(miss)->Name("icon_miss/ours")->Iterations(2000);
+BENCHMARK(limited<miss, 110>)->Name("icon_miss/ours")->Iterations(2000);
 BENCHMARK(missByHand)->Name("icon_miss/plain")->Iterations(2000);
