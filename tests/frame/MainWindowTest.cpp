@@ -129,18 +129,26 @@ private slots:
     {
         Window window;
         window.resize(400, 300);
+        window.setCentralWidget(new QWidget); // joins the window after the overlays
         Gestures::show(&window);
         QVERIFY(!window.getWindowBlock()->isVisible());
         QDialog dialog(&window);
         QTimer::singleShot(0, &dialog, [&] {
             QVERIFY(window.getWindowBlock()->isVisible());
             QCOMPARE(window.getWindowBlock()->size(), window.size());
+            QCOMPARE(window.childAt(200, 150), window.getWindowBlock());
             window.showWindowBlock(); // shows already: no second hook
             dialog.reject();
         });
         dialog.exec();
         QVERIFY(!window.getWindowBlock()->isVisible());
         QCOMPARE(window.told, QStringList({u"block"_s, u"unblock"_s}));
+
+        window.showWindowBlock();
+        window.hide();
+        window.hideWindowBlock();
+        window.show();
+        QVERIFY(!window.getWindowBlock()->isVisible());
     }
 
     void runsTheWaitOverlay()

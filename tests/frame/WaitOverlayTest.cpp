@@ -5,6 +5,7 @@
 
 #include "frame/oVIXWindowWaitGlobal.h"
 
+#include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -116,6 +117,45 @@ private slots:
         wait.progressEvent(QString());
         inAnotherThread([&wait] { wait.progressEvent(QString()); });
         QCOMPARE(crashes, 1);
+    }
+
+    void staysAwayOnceEndedByItsAnnouncement()
+    {
+        QWidget window;
+        oVIXWindowWaitGlobal wait(&window);
+        wait.hide();
+        Gestures::show(&window);
+        connect(&wait, &oVIXWindowWaitGlobal::delayFinished, &wait, [&wait] { wait.endWait(); });
+        wait.startWait(true);
+        wait.timeElapsedEvent();
+        wait.progressEvent(u"late"_s);
+        QVERIFY(!wait.isVisible());
+    }
+
+    void mayBeReportedToOutOfAPaint()
+    {
+        class Reporting : public QWidget
+        {
+        public:
+            Reporting(QWidget *parent, oVIXWindowWait *overlay) : QWidget(parent), wait(overlay) { }
+            oVIXWindowWait *wait;
+
+        protected:
+            void paintEvent(QPaintEvent *) override
+            {
+                const QPainter painter(this);
+                wait->progressEvent(u"painting"_s);
+            }
+        };
+        QWidget window;
+        window.resize(300, 200);
+        oVIXWindowWait wait(&window);
+        Reporting sibling(&window, &wait);
+        sibling.resize(50, 50);
+        QTest::qWait(60); // past the throttle
+        Gestures::show(&window);
+        QTRY_VERIFY(wait.isVisible());
+        QCOMPARE(wait.getText(), u"painting"_s);
     }
 
     void survivesWhatAReportLeadsTo()

@@ -4,6 +4,8 @@
 #include <QPoint>
 #include <QRect>
 
+#include <algorithm>
+
 /// Where a dialog of @p size goes so that its centre falls on @p centre. Only the vertical position is kept on screen:
 /// not above the absolute 0, and with its bottom not below @p available.
 inline QPoint centredOn(QPoint centre, QSize size, const QRect &available)

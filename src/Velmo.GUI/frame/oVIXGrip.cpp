@@ -2,6 +2,8 @@
 
 #include <QMouseEvent>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 oVIXGrip::oVIXGrip(QWidget *parent, GripPosition position, int inset, int thickness)

@@ -170,7 +170,7 @@ void oVIXMainWindow::endWait()
 
 void oVIXMainWindow::showWindowBlock()
 {
-    if (!m_windowBlock || m_windowBlock->isVisible())
+    if (!m_windowBlock || !m_windowBlock->isHidden())
         return;
     showWindowBlockEvent();
     if (m_windowBlock)
@@ -179,7 +179,7 @@ void oVIXMainWindow::showWindowBlock()
 
 void oVIXMainWindow::hideWindowBlock()
 {
-    if (!m_windowBlock || !m_windowBlock->isVisible())
+    if (!m_windowBlock || m_windowBlock->isHidden())
         return;
     m_windowBlock->hide();
     hideWindowBlockEvent();

@@ -35,6 +35,7 @@ oVIXTitleBar::oVIXTitleBar(QMenuBar *menuBar, bool showMinimize, bool showMaximi
     connect(m_closeWidget, &oVIXMinMaxCloseWidget::s_maximize, this, &oVIXTitleBar::maximized);
     connect(m_closeWidget, &oVIXMinMaxCloseWidget::s_close, this, &oVIXTitleBar::closed);
     menuBar->setCornerWidget(m_closeWidget, Qt::TopRightCorner);
+    m_closeWidget->show();
     menuBar->installEventFilter(this);
 }
 

@@ -10,7 +10,8 @@ class oVIXMinMaxCloseWidget;
 /// optional logo in the middle.
 ///
 /// The title bar reports what the user wants; the application changes the window and tells the buttons with
-/// `getCloseWidget()->setMaximized`. It is a child of the menu bar's parent.
+/// `getCloseWidget()->setMaximized`. It is a child of the menu bar's parent, the window that it moves: the menu bar has
+/// to be in its window already.
 class VELMO_GUI_EXPORT oVIXTitleBar : public oVIXTitleBarFilter
 {
     Q_OBJECT

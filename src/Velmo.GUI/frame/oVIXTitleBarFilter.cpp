@@ -21,22 +21,22 @@ bool oVIXTitleBarFilter::eventFilter(QObject *watched, QEvent *event)
     if (watched != m_titleWidget || !m_window)
         return QObject::eventFilter(watched, event);
 
-    const auto *mouse = static_cast<const QMouseEvent *>(event);
+    const auto mouse = [event] { return static_cast<const QMouseEvent *>(event); };
     switch (event->type()) {
     case QEvent::MouseButtonPress:
-        if (mouse->button() == Qt::LeftButton)
-            press(*mouse);
+        if (mouse()->button() == Qt::LeftButton)
+            press(*mouse());
         return false;
     case QEvent::MouseMove:
-        if (mouse->buttons() & Qt::LeftButton)
-            drag(*mouse);
+        if (mouse()->buttons() & Qt::LeftButton)
+            drag(*mouse());
         return false;
     case QEvent::MouseButtonRelease:
-        if (mouse->button() == Qt::LeftButton)
+        if (mouse()->button() == Qt::LeftButton)
             m_dragOffset = QPoint();
         return false;
     case QEvent::MouseButtonDblClick:
-        if (mouse->button() == Qt::LeftButton && canClick(mouse->position().toPoint()))
+        if (mouse()->button() == Qt::LeftButton && canClick(mouse()->position().toPoint()))
             maximize();
         return false;
     default:

@@ -84,6 +84,7 @@ void oVIXWindowBlock::paintEvent(QPaintEvent *)
 void oVIXWindowBlock::showEvent(QShowEvent *event)
 {
     resizeToParent();
+    raise(); // above what has joined the window since
     QWidget::showEvent(event);
 }
 

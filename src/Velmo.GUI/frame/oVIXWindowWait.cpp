@@ -10,6 +10,7 @@
 #include <QThread>
 #include <QTimerEvent>
 
+#include <algorithm>
 #include <cmath>
 #include <mutex>
 
@@ -164,10 +165,11 @@ void oVIXWindowWait::progressEvent(QString text)
     if (!text.isEmpty())
         setText(text);
     // A paint must not start inside another one, nor a report process events inside a report.
-    if (isPainting())
+    if (isWindowPainting()) {
         update();
-    else
-        repaint();
+        return;
+    }
+    repaint();
     if (m_reporting || m_eventsThrottle.elapsed() < eventsThrottleMsecs)
         return;
 
@@ -198,22 +200,25 @@ void oVIXWindowWait::paintEvent(QPaintEvent *event)
     painter.setFont(font);
     painter.setPen(Qt::white);
 
+    // Read once: what is drawn is what counts as painted, whatever a worker says meanwhile.
+    const QString text = shownText();
+    const QString percent = shownPercent();
     const QRegion &region = event->region();
     if (region.intersects(markRect(rect())))
         drawMark(painter);
     if (region.intersects(textBand(rect())))
-        drawLine(painter, textBand(rect()), shownText());
+        drawLine(painter, textBand(rect()), text);
     if (region.intersects(percentBand(rect())))
-        drawLine(painter, percentBand(rect()), shownPercent());
+        drawLine(painter, percentBand(rect()), percent);
 
     // What has been painted only in part still counts as changed.
     const auto isPainted = [&region](const QRect &part) { return QRegion(part).subtracted(region).isEmpty(); };
     if (isPainted(markRect(rect())))
         m_paintedFrame = currentFrame();
     if (isPainted(textBand(rect())))
-        m_paintedText = shownText();
+        m_paintedText = text;
     if (isPainted(percentBand(rect())))
-        m_paintedPercent = shownPercent();
+        m_paintedPercent = percent;
 }
 
 void oVIXWindowWait::timerEvent(QTimerEvent *event)
@@ -300,11 +305,10 @@ QString oVIXWindowWait::shownPercent()
     return m_percentVisible ? u"%1%"_s.arg(getPercent()) : QString();
 }
 
-bool oVIXWindowWait::isPainting() const
+/// Whether the report comes out of some widget's paint.
+bool oVIXWindowWait::isWindowPainting() const
 {
-    for (const QWidget *widget = this; widget; widget = widget->isWindow() ? nullptr : widget->parentWidget()) {
-        if (widget->testAttribute(Qt::WA_WState_InPaintEvent))
-            return true;
-    }
-    return false;
+    const auto isPainting = [](const QWidget *widget) { return widget->testAttribute(Qt::WA_WState_InPaintEvent); };
+    const QList<QWidget *> widgets = window()->findChildren<QWidget *>();
+    return isPainting(window()) || std::any_of(widgets.cbegin(), widgets.cend(), isPainting);
 }

@@ -78,7 +78,7 @@ private:
     void drawMark(QPainter &painter) const;
     QString shownText();
     QString shownPercent();
-    bool isPainting() const;
+    bool isWindowPainting() const;
 
     std::unique_ptr<Reported> m_reported;
     QList<QPointer<QWidget>> m_widgetsToUpdate;

@@ -66,7 +66,7 @@ void oVIXWindowWaitGlobal::progressEvent(QString text)
         if (!alive)
             return;
     }
-    if (showNow)
+    if (showNow && m_running) // the wait may have been ended by the announcement
         oVIXWindowWait::progressEvent(text);
     else if (!text.isEmpty())
         setText(text);

@@ -24,7 +24,7 @@ public:
     void endWait() override;
     bool isRunning() const;
 
-    /// Number of the delay thread that runs, 0 when there is none. Numbers count up and are not used twice.
+    /// Number of this wait's delay thread, 0 without one. Numbers count up and are not used twice.
     unsigned long getWinThreadID();
     /// Ends the delay at once. From any thread.
     void timeElapsedEvent();
