@@ -90,6 +90,18 @@ private slots:
         QTEST(shown.told.join(u' '), "told");
     }
 
+    void selectsTextAsLabelsDo()
+    {
+        Shown shown;
+        shown.label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        for (const auto &[type, x] : {std::pair(QEvent::MouseButtonPress, 0), std::pair(QEvent::MouseMove, 59)}) {
+            const QPointF at(x, 10);
+            QMouseEvent event(type, at, shown.label->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(shown.label, &event);
+        }
+        QCOMPARE(shown.label->selectedText(), u"text"_s);
+    }
+
     void disabledOnesTellNothing()
     {
         Shown shown;

@@ -114,13 +114,16 @@ private slots:
             bool toolkitSaysSo;
             QPoint pointer;
             int answers;
+            bool enabled = true;
         };
-        for (const auto &[toolkitSaysSo, pointer, answers] :
-             {Case{false, {40, 5}, 0}, Case{false, {39, 5}, 1}, Case{true, {90, 90}, 1}}) {
+        for (const auto &[toolkitSaysSo, pointer, answers, enabled] :
+             {Case{false, {40, 5}, 0}, Case{false, {39, 5}, 1}, Case{true, {90, 90}, 1},
+              Case{true, {5, 5}, 0, false}}) {
             Bare button; // not shown, so that the toolkit does not notice the pointer
             button.resize(40, 40);
             QCursor::setPos(button.mapToGlobal(pointer));
             button.setAttribute(Qt::WA_UnderMouse, toolkitSaysSo);
+            button.setEnabled(enabled);
             QSignalSpy clicked(&button, &OvixSvgButton::clicked);
             QSignalSpy doubleClicked(&button, &OvixSvgButton::doubleClicked);
             QSignalSpy rightClicked(&button, &OvixSvgButton::rightClicked);

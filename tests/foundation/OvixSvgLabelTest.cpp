@@ -88,6 +88,7 @@ private slots:
             const QString sheet = u"QLabel { color:%1; background-color:%2;\tborder-color:transparent;}"
                                   "QLabel:hover { background-color:%3;\tborder-color:transparent;}"_s;
             Label label;
+            QVERIFY(label.alignment() == Qt::AlignCenter && label.hasScaledContents());
             if (scheme != 5)
                 label.setColorScheme(OvixSvgLabel::ColorScheme(scheme));
             QCOMPARE(label.sheet(), sheet.arg(text, none, none));
@@ -107,10 +108,10 @@ private slots:
     void sheetsEndWithTheBox()
     {
         const QString end = u"\tborder-color:transparent;%1}"_s;
-        const QString padding = u"\tpadding-left:1px;\tpadding-top:2px;\tpadding-right:3px;\tpadding-bottom:-1px;"_s;
+        const QString padding = u"\tpadding-left:0px;\tpadding-top:2px;\tpadding-right:3px;\tpadding-bottom:-1px;"_s;
         const QString margin = u"\tmargin-left:5px;\tmargin-top:6px;\tmargin-right:7px;\tmargin-bottom:8px;"_s;
         Label label;
-        label.setPadding(1, 2, 3, -1);
+        label.setPadding(0, 2, 3, -1);
         QCOMPARE(label.sheet().count(end.arg(padding)), 2);
         label.setBackgroundMargins(5, 6, 7, 8);
         label.setRoundedBorder(9);

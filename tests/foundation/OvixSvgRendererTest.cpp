@@ -67,7 +67,8 @@ private slots:
             [](OvixSvgKey &key) { key.opacity = 0.2; },
             [](OvixSvgKey &key) { key.devicePixelRatio = 1.25; },
             [](OvixSvgKey &key) { key.supersampling = 2; },
-            [](OvixSvgKey &key) { key.size.transpose(); },
+            [](OvixSvgKey &key) { key.size.setWidth(17); },
+            [](OvixSvgKey &key) { key.size.setHeight(17); },
             [](OvixSvgKey &key) { key.margins.setLeft(1); },
             [](OvixSvgKey &key) { key.margins.setTop(1); },
             [](OvixSvgKey &key) { key.margins.setRight(1); },
@@ -100,7 +101,7 @@ private slots:
     void theFirstRequestDecidesOnTheShadow()
     {
         const QByteArray dot = "<rect x=\"6\" y=\"6\" width=\"4\" height=\"4\"/>";
-        for (const int first : {1, 0}) {
+        for (const int first : {1, 0, -1}) {
             OvixSvgKey key = keyOf(m_drawings.svg(dot), {32, 32});
             key.shadow = first;
             const qint64 picture = OvixSvgRenderer::get(key).cacheKey();
@@ -137,6 +138,8 @@ private slots:
         }
         const QString shifted = m_drawings.svg("<rect x=\"8\" width=\"8\" height=\"16\"/>", "8 0 8 16");
         QCOMPARE(Picture::drawnArea(imageOf(keyOf(shifted))), QRect(8, 0, 8, 16));
+        const QString lowered = m_drawings.svg("<rect y=\"8\" width=\"16\" height=\"8\"/>", "0 8 16 8");
+        QCOMPARE(Picture::drawnArea(imageOf(keyOf(lowered))), QRect(0, 8, 16, 8));
         const QString above = m_drawings.svg("<rect y=\"-16\" width=\"16\" height=\"16\"/>", "0 -16 16 16");
         QCOMPARE(Picture::drawnArea(imageOf(keyOf(above))), QRect());
     }
@@ -169,6 +172,7 @@ private slots:
                  Request{1, {15, 15}, 1.5, {23, 23}},
                  Request{2, {1, 16}, 1.25, {2, 20}}, // rounded at each step
                  Request{32, {16, 16}, 1.0, {1, 1}}, // the factor starts again at 1
+                 Request{largest & ~31, {16, 16}, 1.0, {1, 1}}, // without halving millions of times
                  Request{-1, {16, 16}, 1.0, {0, 0}}, // as 31
                  Request{largest, {16, 16}, 1.0, {0, 0}},
                  Request{smallest, {16, 16}, 1.0, {16, 16}},
@@ -271,8 +275,12 @@ private slots:
     {
         const QByteArray svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 16 16\">";
         const QByteArray rect = "<rect width=\"16\" height=\"16\"/></svg>";
-        for (const QString &filename : {m_drawings.file(svg + "<tool:view tool:zoom=\"2\"/>" + rect),
-                                        m_drawings.file(svg + rect + "<svg"), m_drawings.file(svg + rect, {})})
+        const QByteArray compressed =
+            QByteArray::fromBase64("H4sIAAAAAAACAx2LQQqAMAwEvxLyABMVPEjbg1/R0hbUShuMz7cKexiGWVPvAM+xn9ViFLlmIlXt"
+                                   "dOxyCTQwM7UC4U5el/xYZGDopzZ0pvhVQNMm0WITEH0KUX4mZ76jewFAHmBJYAAAAA==");
+        for (const QString &filename :
+             {m_drawings.file(svg + "<tool:view tool:zoom=\"2\"/>" + rect), m_drawings.file(svg + rect + "<svg"),
+              m_drawings.file(svg + rect, {}), m_drawings.file(compressed, u".svgz"_s)})
             QCOMPARE(Picture::drawnArea(imageOf(keyOf(filename))), QRect(0, 0, 16, 16));
     }
 
@@ -314,7 +322,11 @@ private slots:
             QCOMPARE(OvixSvgRenderer::generateShadow(squareInTheMiddle(format), 4).size(), QSize(32, 32));
         QImage dense = squareInTheMiddle();
         dense.setDevicePixelRatio(2.0);
-        QCOMPARE(OvixSvgRenderer::generateShadow(dense, 4).devicePixelRatio(), 2.0);
+        QImage shadowed = OvixSvgRenderer::generateShadow(dense, 4);
+        QCOMPARE(shadowed.devicePixelRatio(), 2.0);
+        shadowed.setDevicePixelRatio(1.0);
+        QCOMPARE(shadowed, OvixSvgRenderer::generateShadow(squareInTheMiddle(), 4));
+        QVERIFY(OvixSvgRenderer::generateShadow(QImage(), 4).isNull());
     }
 
     void rendersThroughAnEffectThatStaysTheCallers()

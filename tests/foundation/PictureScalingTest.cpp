@@ -47,6 +47,8 @@ private slots:
                                     << QSize(40, 80);
         QTest::newRow("thin") << QSize(300, 1) << QSize(30, 30) << 1.0 << QSize(30, 1) << none << QSize(9000, 30);
         QTest::newRow("too long") << QSize(3000, 1) << QSize(30, 30) << 1.0 << QSize(30, 1) << none << none;
+        QTest::newRow("too wide") << QSize(3000, 30) << QSize(40000, 30) << 1.0 << QSize(3000, 30) << none
+                                  << QSize(3000, 30);
         QTest::newRow("null") << QSize(0, 0) << QSize(16, 16) << 1.0 << none << none << none;
         QTest::newRow("no width") << QSize(10, 10) << QSize(0, 10) << 1.0 << none << none << QSize(10, 10);
         QTest::newRow("huge") << QSize(10, 10) << QSize(largest, largest) << 1.0 << none << none << none;
@@ -94,11 +96,13 @@ private slots:
     {
         oVIXAspectRatioLabel label;
         QCOMPARE(label.minimumSize(), QSize(1, 1));
+        QVERIFY(!label.hasScaledContents());
         label.resize(90, 90);
         label.setPixmap(picture(300, 200));
         QCOMPARE(label.pixmap().size(), QSize(90, 60));
         QCOMPARE(label.scaledPixmap().size(), QSize(90, 60));
-        QCOMPARE(label.sizeHint(), QSize(90, 60));
+        label.resize(120, 60);
+        QCOMPARE(label.sizeHint(), QSize(120, 80));
         // Always from the source: what was small once is sharp again.
         QImage image = picture(300, 200).toImage();
         for (int x = 0; x < 300; x += 2)
