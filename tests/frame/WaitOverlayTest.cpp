@@ -6,10 +6,16 @@
 #include "frame/oVIXWindowWaitGlobal.h"
 
 #include <QPainter>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
 
+#include <atomic>
 #include <thread>
+
+#ifdef __GLIBC__
+#include <pthread.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -119,6 +125,58 @@ private slots:
         QCOMPARE(crashes, 1);
     }
 
+    void takesReportsFromAWorkerWhileItPaints()
+    {
+        QWidget window;
+        window.resize(400, 300);
+        oVIXWindowWaitGlobal wait(&window);
+        wait.hide();
+        Gestures::show(&window);
+        wait.startWait(true);
+        wait.setTextVisible(true);
+        wait.setPercentVisible(true);
+        std::atomic_bool done = false;
+        std::thread worker([&wait, &done] {
+            for (int i = 0; i <= 3000; ++i) {
+                wait.progressEvent(u"Step %1"_s.arg(i));
+                wait.progressEvent(i % 100);
+                if (i == 100)
+                    wait.timeElapsedEvent();
+            }
+            done = true;
+        });
+        while (!done)
+            wait.progressEvent(QString());
+        worker.join();
+        QVERIFY(wait.isVisible());
+        QCOMPARE(wait.getText(), u"Step 3000"_s);
+        QCOMPARE(wait.getPercent(), 0);
+    }
+
+    void showsAtOnceWhenNoThreadCanBeStarted()
+    {
+#if defined(__GLIBC__) && !defined(__SANITIZE_THREAD__)
+        pthread_attr_t before;
+        pthread_getattr_default_np(&before);
+        const auto restore = qScopeGuard([&before] { pthread_setattr_default_np(&before); });
+        pthread_attr_t greedy;
+        pthread_attr_init(&greedy);
+        pthread_attr_setstacksize(&greedy, size_t(1) << 46);
+        pthread_setattr_default_np(&greedy);
+
+        QWidget window;
+        oVIXWindowWaitGlobal wait(&window);
+        wait.hide();
+        Gestures::show(&window);
+        wait.startWait(true);
+        QCOMPARE(wait.getWinThreadID(), 0UL);
+        wait.progressEvent(QString());
+        QVERIFY(wait.isVisible());
+#else
+        QSKIP("Threads cannot be made to fail here.");
+#endif
+    }
+
     void staysAwayOnceEndedByItsAnnouncement()
     {
         QWidget window;
@@ -176,6 +234,26 @@ private slots:
         wait->progressEvent(u"outer"_s);
     }
 
+    void repaintsItsWidgetsAtOnce()
+    {
+        QWidget window;
+        window.resize(300, 200);
+        QWidget scene(&window);
+        auto *gone = new QWidget(&window);
+        oVIXWindowWait wait(&window);
+        for (QWidget *widget : {&scene, gone, static_cast<QWidget *>(nullptr)})
+            wait.addWidgetToUpdate(widget);
+        delete gone;
+        Gestures::show(&window);
+        wait.startWait();
+        QVERIFY(Events::untilIdle());
+        Events::Count paints(&scene, QEvent::Paint);
+        int ticks = 0;
+        QTRY_VERIFY((ticks += paints.taken()) > 0);
+        wait.endWait();
+        QCOMPARE(paints.taken(), 1);
+    }
+
     void paintsOnlyWhatChanges()
     {
         QWidget window;
@@ -201,9 +279,10 @@ private slots:
         wait.installEventFilter(&regions);
         inAnotherThread([&wait] { wait.progressEvent(u"Reading actors"_s); });
         QTRY_VERIFY(regions.painted.contains(QPoint(200, 240)));
-        inAnotherThread([&wait] { wait.percentEvent(7); });
-        QTRY_VERIFY(regions.painted.contains(QPoint(20, 150)));
-        QVERIFY(!regions.painted.contains(QPoint(10, 10)));
+        inAnotherThread([&wait] { wait.percentEvent(1'000'000'000); }); // wider than the mark behind it
+        QTRY_VERIFY(regions.painted.contains(QPoint(131, 150)));
+        for (const QPoint unchanged : {QPoint(10, 10), QPoint(10, 150), QPoint(10, 240)})
+            QVERIFY(!regions.painted.contains(unchanged));
         wait.removeEventFilter(&regions);
 
         wait.endWait();

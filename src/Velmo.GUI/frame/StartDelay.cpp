@@ -2,6 +2,7 @@
 
 #include <condition_variable>
 #include <mutex>
+#include <system_error>
 
 // The two locks are never held together.
 struct StartDelay::Shared
@@ -45,7 +46,11 @@ void StartDelay::start(std::chrono::nanoseconds delay)
         m_shared->threadNumber = number;
     }
     const auto deadline = std::chrono::steady_clock::now() + delay;
-    m_thread = std::thread([shared = m_shared, number, deadline] { run(shared, number, deadline); });
+    try {
+        m_thread = std::thread([shared = m_shared, number, deadline] { run(shared, number, deadline); });
+    } catch (const std::system_error &) { // no thread to be had: rather no delay than no overlay
+        startElapsed();
+    }
 }
 
 void StartDelay::startElapsed()

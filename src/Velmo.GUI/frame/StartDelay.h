@@ -18,7 +18,7 @@ public:
     StartDelay(const StartDelay &) = delete;
     StartDelay &operator=(const StartDelay &) = delete;
 
-    /// Clears the flags and lets them be set after @p delay.
+    /// Clears the flags and lets them be set after @p delay. The same as `startElapsed` when no thread can be started.
     void start(std::chrono::nanoseconds delay);
     /// Sets the elapsed flag at once, without a pending one.
     void startElapsed();

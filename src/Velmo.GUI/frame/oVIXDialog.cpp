@@ -5,7 +5,6 @@
 #include "frame/oVIXDialogTitle.h"
 #include "frame/oVIXWindowWait.h"
 
-#include <QCloseEvent>
 #include <QDebug>
 #include <QGuiApplication>
 #include <QLayout>
@@ -144,19 +143,6 @@ void oVIXDialog::resizeEvent(QResizeEvent *event)
     QDialog::resizeEvent(event);
     m_title->setFixedWidth(width());
     autocenter();
-}
-
-/// The window system's close takes the same way as the close button.
-void oVIXDialog::closeEvent(QCloseEvent *event)
-{
-    if (!isVisible()) {
-        QDialog::closeEvent(event);
-        return;
-    }
-    const QPointer<oVIXDialog> alive(this);
-    reject();
-    if (alive && isVisible())
-        event->ignore();
 }
 
 void oVIXDialog::adjustToTitle()

@@ -65,3 +65,8 @@ void oVIXMinMaxCloseWidget::insertItem(QLayoutItem *item, int index)
     if (item)
         m_ui->horizontalLayout_2->insertItem(index, item);
 }
+
+QSize oVIXMinMaxCloseWidget::sizeHint() const
+{
+    return QWidget::sizeHint().expandedTo(QSize(0, rowHeight));
+}

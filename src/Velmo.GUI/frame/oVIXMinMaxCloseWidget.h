@@ -31,6 +31,9 @@ public:
     void insertWidget(QWidget *widget, int index);
     void insertItem(QLayoutItem *item, int index);
 
+    /// The row's height also without any button: a menu bar asks for it.
+    QSize sizeHint() const override;
+
 signals:
     void s_minimize();
     void s_maximize();

@@ -44,10 +44,39 @@ QRect percentBand(const QRect &pane)
     return band(pane, -10, 9);
 }
 
-void drawLine(QPainter &painter, const QRect &line, const QString &text)
+QFont lineFont()
 {
-    const QString fitting = painter.fontMetrics().elidedText(text, Qt::ElideRight, line.width());
-    painter.drawText(line, Qt::AlignHCenter | Qt::AlignVCenter, fitting);
+    QFont font(u"Inter"_s);
+    font.setPixelSize(fontPixelSize);
+    return font;
+}
+
+/// What a line covers of its band, with room for letters that lean out.
+QRect lineArea(const QRect &lineBand, const QString &text)
+{
+    if (text.isEmpty())
+        return {};
+    const int width = std::min(QFontMetrics(lineFont()).horizontalAdvance(text) + fontPixelSize, lineBand.width());
+    return {lineBand.x() + (lineBand.width() - width) / 2, lineBand.y(), width, lineBand.height()};
+}
+
+/// Whether some widget of the window is being painted.
+bool isPainting(const QWidget *window)
+{
+    const auto inPaint = [](const QWidget *widget) { return widget->testAttribute(Qt::WA_WState_InPaintEvent); };
+    const QList<QWidget *> widgets = window->findChildren<QWidget *>();
+    return inPaint(window) || std::any_of(widgets.cbegin(), widgets.cend(), inPaint);
+}
+
+/// Paints at once, or later when called out of a paint: one must not start inside another. Tells which.
+bool repaintNow(QWidget *widget)
+{
+    if (isPainting(widget->window())) {
+        widget->update();
+        return false;
+    }
+    widget->repaint();
+    return true;
 }
 
 } // namespace
@@ -69,7 +98,12 @@ oVIXWindowWait::oVIXWindowWait(QWidget *parent) : oVIXWindowBlock(parent), m_rep
 
 oVIXWindowWait::~oVIXWindowWait()
 {
-    oVIXWindowWait::endWait();
+    stop();
+    // Not at once: what they are part of may be going, too.
+    for (const QPointer<QWidget> &widget : std::as_const(m_widgetsToUpdate)) {
+        if (widget)
+            widget->update();
+    }
 }
 
 void oVIXWindowWait::startWait()
@@ -83,8 +117,7 @@ void oVIXWindowWait::startWait()
 
 void oVIXWindowWait::endWait()
 {
-    hide();
-    stopTicks();
+    stop();
     repaintWidgetsToUpdate();
 }
 
@@ -164,13 +197,8 @@ void oVIXWindowWait::progressEvent(QString text)
     show();
     if (!text.isEmpty())
         setText(text);
-    // A paint must not start inside another one, nor a report process events inside a report.
-    if (isWindowPainting()) {
-        update();
-        return;
-    }
-    repaint();
-    if (m_reporting || m_eventsThrottle.elapsed() < eventsThrottleMsecs)
+    // A report must not process events inside another report, either.
+    if (!repaintNow(this) || m_reporting || m_eventsThrottle.elapsed() < eventsThrottleMsecs)
         return;
 
     const QPointer<oVIXWindowWait> alive(this);
@@ -195,30 +223,17 @@ void oVIXWindowWait::paintEvent(QPaintEvent *event)
     painter.setRenderHint(QPainter::Antialiasing);
     paintBackground(painter);
 
-    QFont font(u"Inter"_s);
-    font.setPixelSize(fontPixelSize);
-    painter.setFont(font);
+    painter.setFont(lineFont());
     painter.setPen(Qt::white);
 
-    // Read once: what is drawn is what counts as painted, whatever a worker says meanwhile.
-    const QString text = shownText();
-    const QString percent = shownPercent();
     const QRegion &region = event->region();
-    if (region.intersects(markRect(rect())))
+    const QRect mark = markRect(rect());
+    if (region.intersects(mark))
         drawMark(painter);
-    if (region.intersects(textBand(rect())))
-        drawLine(painter, textBand(rect()), text);
-    if (region.intersects(percentBand(rect())))
-        drawLine(painter, percentBand(rect()), percent);
-
-    // What has been painted only in part still counts as changed.
-    const auto isPainted = [&region](const QRect &part) { return QRegion(part).subtracted(region).isEmpty(); };
-    if (isPainted(markRect(rect())))
+    if (QRegion(mark & rect()).subtracted(region).isEmpty()) // painted in part, it still counts as changed
         m_paintedFrame = currentFrame();
-    if (isPainted(textBand(rect())))
-        m_paintedText = text;
-    if (isPainted(percentBand(rect())))
-        m_paintedPercent = percent;
+    paintLine(painter, region, textBand(rect()), shownText(), m_textLine);
+    paintLine(painter, region, percentBand(rect()), shownPercent(), m_percentLine);
 }
 
 void oVIXWindowWait::timerEvent(QTimerEvent *event)
@@ -246,7 +261,6 @@ void oVIXWindowWait::startTicks()
 void oVIXWindowWait::rewindMovie()
 {
     m_moviePosition = 0.0;
-    m_frameClock.restart();
 }
 
 bool oVIXWindowWait::isOnGuiThread() const
@@ -254,8 +268,9 @@ bool oVIXWindowWait::isOnGuiThread() const
     return QThread::currentThread() == thread();
 }
 
-void oVIXWindowWait::stopTicks()
+void oVIXWindowWait::stop()
 {
+    hide();
     if (m_timerId >= 0)
         killTimer(m_timerId);
     m_timerId = -1;
@@ -263,9 +278,10 @@ void oVIXWindowWait::stopTicks()
 
 void oVIXWindowWait::repaintWidgetsToUpdate()
 {
-    for (const QPointer<QWidget> &widget : std::as_const(m_widgetsToUpdate)) {
+    const QList<QPointer<QWidget>> widgets = m_widgetsToUpdate; // a paint may add to them
+    for (const QPointer<QWidget> &widget : widgets) {
         if (widget)
-            widget->update();
+            repaintNow(widget);
     }
 }
 
@@ -279,10 +295,12 @@ QRegion oVIXWindowWait::changedSincePaint()
     QRegion changed;
     if (currentFrame() != m_paintedFrame)
         changed += markRect(rect());
-    if (shownText() != m_paintedText)
-        changed += textBand(rect());
-    if (shownPercent() != m_paintedPercent)
-        changed += percentBand(rect());
+    const auto addLine = [&changed](const QRect &lineBand, const QString &text, const Line &line) {
+        if (text != line.painted)
+            changed += QRegion(line.area) + lineArea(lineBand, text);
+    };
+    addLine(textBand(rect()), shownText(), m_textLine);
+    addLine(percentBand(rect()), shownPercent(), m_percentLine);
     return changed;
 }
 
@@ -295,6 +313,20 @@ void oVIXWindowWait::drawMark(QPainter &painter) const
     painter.drawPixmap(markRect(rect()).topLeft(), OvixSvgRenderer::get(key));
 }
 
+void oVIXWindowWait::paintLine(QPainter &painter, const QRegion &region, const QRect &lineBand, const QString &text,
+                               Line &line) const
+{
+    const QRect area = lineArea(lineBand, text);
+    if (region.intersects(area)) {
+        const QString fitting = painter.fontMetrics().elidedText(text, Qt::ElideRight, lineBand.width());
+        painter.drawText(lineBand, Qt::AlignHCenter | Qt::AlignVCenter, fitting);
+    }
+    // What has been painted only in part still counts as changed.
+    line.area |= area;
+    if (QRegion(line.area & rect()).subtracted(region).isEmpty())
+        line = {text, area};
+}
+
 QString oVIXWindowWait::shownText()
 {
     return m_textVisible ? getText() : QString();
@@ -303,12 +335,4 @@ QString oVIXWindowWait::shownText()
 QString oVIXWindowWait::shownPercent()
 {
     return m_percentVisible ? u"%1%"_s.arg(getPercent()) : QString();
-}
-
-/// Whether the report comes out of some widget's paint.
-bool oVIXWindowWait::isWindowPainting() const
-{
-    const auto isPainting = [](const QWidget *widget) { return widget->testAttribute(Qt::WA_WState_InPaintEvent); };
-    const QList<QWidget *> widgets = window()->findChildren<QWidget *>();
-    return isPainting(window()) || std::any_of(widgets.cbegin(), widgets.cend(), isPainting);
 }

@@ -70,15 +70,22 @@ protected:
 
 private:
     struct Reported;
+    /// A line as it was last painted whole, and all that its letters may cover since.
+    struct Line
+    {
+        QString painted;
+        QRect area;
+    };
 
-    void stopTicks();
+    void stop();
     void repaintWidgetsToUpdate();
     int currentFrame() const;
     QRegion changedSincePaint();
     void drawMark(QPainter &painter) const;
+    void paintLine(QPainter &painter, const QRegion &region, const QRect &lineBand, const QString &text,
+                   Line &line) const;
     QString shownText();
     QString shownPercent();
-    bool isWindowPainting() const;
 
     std::unique_ptr<Reported> m_reported;
     QList<QPointer<QWidget>> m_widgetsToUpdate;
@@ -91,6 +98,6 @@ private:
     bool m_textVisible = false;
     bool m_percentVisible = false;
     bool m_reporting = false;
-    QString m_paintedText;
-    QString m_paintedPercent;
+    Line m_textLine;
+    Line m_percentLine;
 };

@@ -7,7 +7,8 @@ oVIXWindowWaitGlobal::oVIXWindowWaitGlobal(QWidget *parent) : oVIXWindowWait(par
 
 oVIXWindowWaitGlobal::~oVIXWindowWaitGlobal()
 {
-    oVIXWindowWaitGlobal::endWait();
+    m_delay->cancel();
+    m_running = false;
 }
 
 void oVIXWindowWaitGlobal::startWait(bool delayed)
