@@ -7,6 +7,8 @@ build_packages=(
     fonts-inter
     libbenchmark-dev
 )
+# The Windows services are cross-compiled and run under Wine; gestures on real windows want a window manager.
+test_packages=(g++-mingw-w64-x86-64-posix wine64 xvfb xauth openbox xdotool)
 bench_packages=(python3)
 check_packages=(clang-format clang-tidy)
 

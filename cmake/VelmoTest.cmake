@@ -12,10 +12,32 @@ function(velmo_test_environment)
     set_tests_properties(${ARGV} PROPERTIES ENVIRONMENT_MODIFICATION "${changes}" TIMEOUT 300)
 endfunction()
 
+# velmo_tests_wanted(<result> <option> <tool>...)
+#
+# Whether the tests that <option> stands for (ON, OFF, or AUTO, where the tools are found) are to be made. The tools are
+# variables of find_program; it is an error when tests are asked for and a tool is missing.
+function(velmo_tests_wanted result option)
+    set(${result} OFF PARENT_SCOPE)
+    # Sanitized programs are slow, and what such tests rest on is not sanitized.
+    if(NOT ${option} OR VELMO_SANITIZE OR NOT CMAKE_SYSTEM_NAME STREQUAL "Linux")
+        return()
+    endif()
+    foreach(tool IN LISTS ARGN)
+        if(NOT ${tool} AND ${option} STREQUAL "AUTO")
+            message(STATUS "Tests left out (${option}): ${tool} is not found")
+            return()
+        elseif(NOT ${tool})
+            message(FATAL_ERROR "${option} asks for tests, but ${tool} is not found")
+        endif()
+    endforeach()
+    set(${result} ON PARENT_SCOPE)
+endfunction()
+
 # velmo_test(<label> <name> [POSIX] [SCALES <factor>...] [LIBRARIES <library>...])
 #
 # A Qt Test program tests/<label>/<name>.cpp, run once at scale 1 and once more at every factor of SCALES.
-# POSIX marks a test that needs a POSIX system; it is left out elsewhere.
+# POSIX marks a test that needs a POSIX system; it is left out elsewhere. The target <label>_tests builds those of a
+# label.
 function(velmo_test label name)
     cmake_parse_arguments(PARSE_ARGV 2 arg "POSIX" "" "SCALES;LIBRARIES")
     if(arg_POSIX AND NOT UNIX)
@@ -25,6 +47,10 @@ function(velmo_test label name)
     add_executable(${name} "${label}/${name}.cpp")
     velmo_compile_settings(${name})
     target_link_libraries(${name} PRIVATE Velmo2::GUI VelmoTestSupport ${arg_LIBRARIES})
+    if(NOT TARGET ${label}_tests)
+        add_custom_target(${label}_tests)
+    endif()
+    add_dependencies(${label}_tests ${name})
 
     # The platform is an argument rather than a variable, since compatibility layers drop QT_ variables.
     set(test ${label}.${name})
@@ -36,4 +62,27 @@ function(velmo_test label name)
     endforeach()
     velmo_test_environment(${tests})
     set_tests_properties(${tests} PROPERTIES LABELS ${label})
+endfunction()
+
+set(VELMO_DESKTOP_TESTS AUTO CACHE STRING "Test on a display of their own: ON, OFF, or AUTO, where the tools are found")
+find_program(VELMO_XVFB NAMES Xvfb)
+find_program(VELMO_OPENBOX NAMES openbox)
+find_program(VELMO_XDOTOOL NAMES xdotool)
+
+# velmo_desktop_test(<name> [LIBRARIES <library>...])
+#
+# A Qt Test program tests/desktop/<name>.cpp, run with a display, a window manager and a pointer of its own.
+function(velmo_desktop_test name)
+    velmo_tests_wanted(wanted VELMO_DESKTOP_TESTS VELMO_XVFB VELMO_OPENBOX VELMO_XDOTOOL)
+    if(NOT wanted)
+        return()
+    endif()
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LIBRARIES")
+    add_executable(${name} "desktop/${name}.cpp" desktop/RealInput.cpp)
+    velmo_compile_settings(${name})
+    target_link_libraries(${name} PRIVATE Velmo2::GUI VelmoTestSupport ${arg_LIBRARIES})
+    add_test(NAME desktop.${name}
+        COMMAND "${CMAKE_CURRENT_SOURCE_DIR}/desktop/run-on-desktop.sh" $<TARGET_FILE:${name}> -platform xcb)
+    velmo_test_environment(desktop.${name})
+    set_tests_properties(desktop.${name} PROPERTIES LABELS desktop)
 endfunction()
