@@ -5,7 +5,7 @@
 #include "oVIXStyle.h"
 #include "scenes/ShippedProjects.h"
 #include "shots/Shots.h"
-#include "start/StartScreen.h"
+#include "window/WorkstationWindow.h"
 
 #include <QApplication>
 #include <QDir>
@@ -125,7 +125,7 @@ int main(int argc, char **argv)
     const QString projectsFolder = line.projectsFolder.isEmpty() ? ShippedProjects::folder() : line.projectsFolder;
     switch (line.task) {
     case CommandLine::Task::StartScreen:
-        return run(std::make_unique<StartScreen>(projectsFolder));
+        return run(std::make_unique<WorkstationWindow>(projectsFolder));
     case CommandLine::Task::Gallery:
         return openGallery(line.galleryPage);
     case CommandLine::Task::Shots:

@@ -1,9 +1,12 @@
 #include "gallery/GalleryPages.h"
 
+#include "gallery/DialogsPage.h"
 #include "gallery/IconStatesPage.h"
 #include "gallery/IconsPage.h"
 #include "gallery/LabelsPage.h"
+#include "gallery/OverlaysPage.h"
 #include "gallery/SceneListPage.h"
+#include "gallery/TitleBarsPage.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,6 +16,9 @@ QList<GalleryPages::Page> GalleryPages::all()
         {u"icons"_s, IconsPage::tr("Icons"), [] { return new IconsPage; }},
         {u"icon-states"_s, IconStatesPage::tr("Icon states"), [] { return new IconStatesPage; }},
         {u"labels-and-buttons"_s, LabelsPage::tr("Labels and buttons"), [] { return new LabelsPage; }},
+        {u"title-bars"_s, TitleBarsPage::tr("Title bars"), [] { return new TitleBarsPage; }},
+        {u"overlays"_s, OverlaysPage::tr("Overlays"), [] { return new OverlaysPage; }},
+        {u"dialogs"_s, DialogsPage::tr("Dialogs"), [] { return new DialogsPage; }},
         {u"scene-list"_s, SceneListPage::tr("Scene list"), [] { return new SceneListPage; }},
     };
 }

@@ -43,6 +43,22 @@ QString Sheets::scrollBar()
             "QScrollBar::add-line, QScrollBar::sub-line { width:0px; height:0px; }"_s;
 }
 
+QString Sheets::button()
+{
+    return u"QPushButton { font-family:Inter; font-size:11px; color:rgb(219,219,219); background-color:rgb(59,59,59);"
+            " border:0px; border-radius:4px; padding:8px 20px; }"
+            "QPushButton:default { color:rgb(28,28,28); background-color:rgb(116,211,252); }"
+            "QPushButton:hover { background-color:rgb(81,81,81); }"
+            "QPushButton:default:hover { background-color:rgb(160,226,253); }"
+            "QPushButton:focus { border:1px solid rgb(219,219,219); padding:7px 19px; }"
+            "QPushButton:disabled { color:rgb(105,105,105); background-color:rgb(59,59,59); }"_s;
+}
+
+QString Sheets::secondaryText()
+{
+    return u"QLabel { font-family:Inter; font-size:11px; color:rgb(156,156,156); }"_s;
+}
+
 QString Sheets::clearScrollArea()
 {
     return u"QScrollArea { border:0px; background-color:transparent; }"_s;

@@ -12,6 +12,10 @@ QString window();
 QString nameList();
 /// A slim bar without arrows.
 QString scrollBar();
+/// A button with words; the default one in the accent colour.
+QString button();
+/// Small words beside more important ones.
+QString secondaryText();
 /// A scroll area that shows the background it lies on.
 QString clearScrollArea();
 

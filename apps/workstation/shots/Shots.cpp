@@ -4,10 +4,13 @@
 #include "gallery/GalleryWindow.h"
 #include "shots/PictureFolder.h"
 #include "start/StartScreen.h"
+#include "window/WorkstationWindow.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QEventLoop>
+#include <QPainter>
 #include <QPixmap>
 #include <QProcess>
 #include <QTimer>
@@ -79,21 +82,51 @@ bool waitUntilRead(StartScreen *screen)
     return !screen->isReading();
 }
 
-bool drawStartScreen(PictureFolder &pictures, const QString &projectsFolder)
+bool waitUntilLoaded(WorkstationWindow *window)
 {
-    StartScreen screen(projectsFolder);
-    screen.show();
-    const QList<ProjectFolder> projects = screen.projects();
+    if (!window->isLoading())
+        return true;
+    QEventLoop loop;
+    QObject::connect(window, &WorkstationWindow::loadingFinished, &loop, &QEventLoop::quit);
+    QTimer::singleShot(longestReading, &loop, &QEventLoop::quit);
+    loop.exec();
+    return !window->isLoading();
+}
+
+/// The window with its open dialog over it, as on screen.
+QImage pictureWithDialog(QWidget *window)
+{
+    const auto *dialog = window->findChild<QDialog *>(QString(), Qt::FindDirectChildrenOnly);
+    QImage picture = pictureOf(window);
+    if (dialog) {
+        QPainter painter(&picture);
+        painter.drawPixmap(dialog->pos() - window->pos(), const_cast<QDialog *>(dialog)->grab());
+    }
+    return picture;
+}
+
+bool drawWindow(PictureFolder &pictures, const QString &projectsFolder)
+{
+    WorkstationWindow window(projectsFolder);
+    window.show();
+    StartScreen *screen = window.startScreen();
+    const QList<ProjectFolder> projects = screen->projects();
     bool good = !projects.isEmpty();
     for (int row = 0; row < int(projects.size()); ++row) {
-        screen.selectProject(row);
-        if (!waitUntilRead(&screen)) {
+        screen->selectProject(row);
+        if (!waitUntilRead(screen)) {
             std::fprintf(stderr, "%s: reading the scenes takes too long\n", qPrintable(projects[row].path()));
             return false;
         }
-        good = pictures.save(pictureOf(&screen), u"start "_s + projects[row].name()) && good;
+        good = pictures.save(pictureOf(&window), u"start "_s + projects[row].name()) && good;
     }
-    return good;
+
+    screen->openSelectedScene();
+    if (!waitUntilLoaded(&window) || !window.showsScene())
+        return good; // a folder without any scene that can be opened
+    good = pictures.save(pictureOf(&window), u"scene"_s) && good;
+    window.showSceneFacts();
+    return pictures.save(pictureWithDialog(&window), u"scene facts"_s) && good;
 }
 
 bool drawGallery(PictureFolder &pictures)
@@ -144,9 +177,9 @@ int Shots::draw(const QString &folder, const QString &projectsFolder, double sca
     const WarningCounter warnings;
     QApplication::setCursorFlashTime(0);
     PictureFolder pictures(folder, scale);
-    const bool startScreenDrawn = drawStartScreen(pictures, projectsFolder);
+    const bool windowDrawn = drawWindow(pictures, projectsFolder);
     const bool galleryDrawn = drawGallery(pictures);
     if (warnings.count() > 0)
         std::fprintf(stderr, "The toolkit has printed %d warnings.\n", warnings.count());
-    return startScreenDrawn && galleryDrawn && warnings.count() == 0 ? 0 : 1;
+    return windowDrawn && galleryDrawn && warnings.count() == 0 ? 0 : 1;
 }

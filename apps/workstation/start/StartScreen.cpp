@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QStackedWidget>
 
@@ -19,7 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize startSize(1180, 720);
 constexpr QSize smallestSize(1000, 520);
 constexpr int projectsWidth = 260;
 constexpr int gap = 16;
@@ -51,9 +51,7 @@ StartScreen::StartScreen(const QString &folder, QWidget *parent)
     setObjectName(u"window"_s);
     setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(Sheets::window());
-    setWindowTitle(tr("Projects"));
     setMinimumSize(smallestSize);
-    QWidget::resize(startSize);
 
     auto *header = new HeaderBar(this);
     header->setSubtitle(QDir::toNativeSeparators(folder));
@@ -75,6 +73,11 @@ StartScreen::StartScreen(const QString &folder, QWidget *parent)
     connect(m_reader, &SceneReader::finished, this, &StartScreen::finishReading);
     connect(m_table, &VelmoScenesTable::renameRequested, this, &StartScreen::renameScene);
     connect(m_table, &VelmoScenesTable::newScenePressed, this, &StartScreen::addScene);
+    connect(m_table, &VelmoScenesTable::selectionChanged, this, [this] {
+        m_openButton->setEnabled(canOpen());
+        emit selectionChanged();
+    });
+    connect(m_openButton, &QPushButton::clicked, this, &StartScreen::openSelectedScene);
     connect(m_projectList, &QListWidget::currentRowChanged, this, &StartScreen::openProject);
 
     listProjects(folder);
@@ -93,6 +96,23 @@ void StartScreen::selectProject(int row)
 bool StartScreen::isReading() const
 {
     return m_reader->isReading();
+}
+
+bool StartScreen::canOpen() const
+{
+    return !m_table->getSelectedScene().isEmpty();
+}
+
+void StartScreen::openSelectedScene()
+{
+    const int row = m_table->getSelectedRow();
+    if (row >= 0 && row < m_scenes.size())
+        emit openRequested(m_scenes[row].file.path);
+}
+
+void StartScreen::showProblem(const QString &text)
+{
+    m_status->showProblem(text);
 }
 
 QWidget *StartScreen::createProjectsPanel()
@@ -128,8 +148,15 @@ QWidget *StartScreen::createScenesPanel()
     m_scenesStack->addWidget(m_emptyNote);
     m_scenesStack->addWidget(m_table);
 
-    panel->layout()->addWidget(m_scenesTitle);
-    panel->layout()->addWidget(m_scenesStack);
+    m_openButton = new QPushButton(tr("Open scene"), panel);
+    m_openButton->setStyleSheet(Sheets::button());
+    m_openButton->setDefault(true);
+    m_openButton->setEnabled(false);
+
+    auto *layout = static_cast<QVBoxLayout *>(panel->layout());
+    layout->addWidget(m_scenesTitle);
+    layout->addWidget(m_scenesStack);
+    layout->addWidget(m_openButton, 0, Qt::AlignRight);
     return panel;
 }
 

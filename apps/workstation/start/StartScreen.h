@@ -8,20 +8,21 @@
 class ElidedLabel;
 class QLabel;
 class QListWidget;
+class QPushButton;
 class QStackedWidget;
 class StatusLine;
 class VelmoScenesTable;
 
-/// The window the application opens with: the projects of a folder, and the scenes of the selected one.
+/// What the application opens with: the projects of a folder, and the scenes of the selected one.
 ///
-/// Scene files are read in the background while the window stays usable. Renaming and adding scenes works on the files
+/// Scene files are read in the background while it stays usable. Renaming and adding scenes works on the files
 /// at once; what is refused is explained in the status line.
 class StartScreen : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// @p folder may be missing: the window says so and stays usable.
+    /// @p folder may be missing: the screen says so and stays usable.
     explicit StartScreen(const QString &folder, QWidget *parent = nullptr);
 
     QList<ProjectFolder> projects() const;
@@ -29,7 +30,17 @@ public:
     void selectProject(int row);
     bool isReading() const;
 
+    /// Whether a scene is selected.
+    bool canOpen() const;
+    /// Asks for the selected scene to be opened.
+    void openSelectedScene();
+    /// Says what has gone wrong.
+    void showProblem(const QString &text);
+
 signals:
+    void openRequested(const QString &path);
+    /// Another scene, or none, is selected.
+    void selectionChanged();
     /// The scenes of the selected project have all been read.
     void projectRead();
 
@@ -58,5 +69,6 @@ private:
     QLabel *m_emptyNote = nullptr;
     ElidedLabel *m_scenesTitle = nullptr;
     VelmoScenesTable *m_table = nullptr;
+    QPushButton *m_openButton = nullptr;
     StatusLine *m_status;
 };

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "scenes/Scene.h"
+
+#include <QCoreApplication>
+#include <QXmlStreamReader>
+
+#include <functional>
+
+/// Reads a whole scene file. Safe in any thread; one object reads one file.
+class SceneContentReader
+{
+    Q_DECLARE_TR_FUNCTIONS(SceneContentReader)
+
+public:
+    /// Called at every new kind of content, in words for the user, and at every percent.
+    std::function<void(const QString &text)> onStep;
+    std::function<void(int percent)> onPercent;
+    /// Asked now and then; true ends the reading early.
+    std::function<bool()> isCancelled;
+
+    /// False when the file is missing, no scene, broken or cancelled; `problem` has the words for the user.
+    bool read(const QString &path, Scene *scene);
+    QString problem() const;
+
+private:
+    void readElement();
+    void readWall();
+    void readMover(QList<SceneMover> *movers);
+    void report();
+    /// A finite number of at most 1,000,000 either way, else @p otherwise.
+    double number(QLatin1String attribute, double otherwise = 0.0) const;
+    QString text(QLatin1String attribute) const;
+    QPointF point() const;
+
+    QXmlStreamReader m_xml;
+    Scene *m_scene = nullptr;
+    QString m_problem;
+    qint64 m_size = 0;
+    int m_percent = -1;
+    bool m_cancelled = false;
+};

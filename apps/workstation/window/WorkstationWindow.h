@@ -1,0 +1,67 @@
+#pragma once
+
+#include "scenes/SceneLoading.h"
+
+#include <oVIXMainWindow.h>
+
+#include <QTimer>
+
+class QAction;
+class QStackedWidget;
+class ScenePage;
+class StartScreen;
+class oVIXTitleBar;
+
+/// The application's window: frameless, with the menu bar as its title bar, the start screen, and the page of the open
+/// scene.
+class WorkstationWindow : public oVIXMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// @p projectsFolder may be missing: the start screen says so.
+    explicit WorkstationWindow(const QString &projectsFolder);
+    ~WorkstationWindow() override;
+
+    StartScreen *startScreen() const;
+    ScenePage *scenePage() const;
+    bool showsScene() const;
+    bool isLoading() const;
+
+    /// Loads a scene file in the background and shows it. Only a load of more than a second shows the wait overlay.
+    /// Nothing while another one is being loaded.
+    void openScene(const QString &path);
+    void closeScene();
+    /// Opens the dialog about the open scene.
+    void showSceneFacts();
+
+signals:
+    /// The load that `openScene` has begun is over, for good or bad.
+    void loadingFinished();
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void createMenus();
+    void createTitleBar();
+    void toggleMaximized();
+    void showScene(const Scene &scene);
+    void reportProblem(const QString &problem);
+    void endLoading();
+    void updateActions();
+
+    QStackedWidget *m_pages;
+    StartScreen *m_startScreen;
+    ScenePage *m_scenePage;
+    oVIXTitleBar *m_titleBar = nullptr;
+    QAction *m_openAction = nullptr;
+    QAction *m_closeSceneAction = nullptr;
+    QAction *m_factsAction = nullptr;
+    QAction *m_maximizeAction = nullptr;
+    /// Lets the wait overlay show what the loading thread says.
+    QTimer m_reportTimer;
+    SceneLoading m_loading; // the last member: its thread reports to the overlay until it is gone
+};
