@@ -53,9 +53,11 @@ private slots:
         QVERIFY2(m_problem.contains(u"not a scene"_s), qPrintable(m_problem));
         QVERIFY(!read("<VelmoSerializer>\n<actors><actor>", &scene));
         QVERIFY2(m_problem.contains(u"line 2"_s), qPrintable(m_problem));
-        SceneContentReader reader;
-        QVERIFY(!reader.read(m_folder.filePath(u"none.vscene"_s), &scene));
-        QVERIFY(!reader.problem().isEmpty());
+        for (const QString &path : {m_folder.filePath(u"none.vscene"_s), m_folder.path()}) {
+            SceneContentReader reader;
+            QVERIFY(!reader.read(path, &scene));
+            QVERIFY(!reader.problem().isEmpty());
+        }
     }
 
     void tellsHowFarItIsAndStops()
@@ -71,6 +73,9 @@ private slots:
         m_cancelAt = 100;
         QVERIFY(!read(document, &scene));
         QVERIFY(scene.people.size() <= m_cancelAt);
+        QVERIFY(!read("<VelmoSerializer><wall>" + QByteArray("<point/>").repeated(40000) + "</wall></VelmoSerializer>",
+                      &scene));
+        QVERIFY(scene.walls.first().size() <= m_cancelAt + 1);
     }
 
 private:

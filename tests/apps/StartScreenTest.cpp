@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -105,6 +106,14 @@ private slots:
             QVERIFY2(status()->text().contains(name), qPrintable(status()->text()));
         }
         QCOMPARE(sceneNames().size(), 5);
+
+        QVERIFY(m_screen->canOpen());
+        QVERIFY(QDir(m_folder->path()).mkdir(u"Empty"_s));
+        StartScreen rescanned(m_folder->path());
+        QTRY_VERIFY(rescanned.canOpen());
+        QSignalSpy changed(&rescanned, &StartScreen::selectionChanged);
+        rescanned.selectProject(1);
+        QVERIFY(!rescanned.canOpen() && !changed.isEmpty());
 
         StartScreen screen(path(u"none"_s)); // a missing folder has no projects
         screen.selectProject(0);

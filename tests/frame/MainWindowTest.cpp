@@ -15,6 +15,8 @@
 
 #include <QDialog>
 #include <QElapsedTimer>
+#include <QLabel>
+#include <QLayout>
 #include <QMenuBar>
 #include <QScopeGuard>
 #include <QSignalSpy>
@@ -256,6 +258,10 @@ private slots:
         QVERIFY(logo->isHidden());
         title.getCloseWidget()->hideCloseButtons();
         QCOMPARE(title.getCloseWidget()->height(), 32);
+        QCOMPARE(window.menuBar()->sizeHint().height(), 32);
+        auto *last = new QLabel;
+        title.getCloseWidget()->insertWidget(last, 99);
+        QCOMPARE(title.getCloseWidget()->layout()->indexOf(last), 3);
     }
 
     void saysThatItCloses()

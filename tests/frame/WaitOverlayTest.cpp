@@ -188,6 +188,12 @@ private slots:
         wait.timeElapsedEvent();
         wait.progressEvent(u"late"_s);
         QVERIFY(!wait.isVisible());
+
+        connect(&wait, &oVIXWindowWaitGlobal::delayFinished, &wait, [&wait] { wait.startWait(true); });
+        wait.startWait(true);
+        wait.timeElapsedEvent();
+        wait.progressEvent(QString());
+        QVERIFY(wait.isRunning() && !wait.isVisible());
     }
 
     void mayBeReportedToOutOfAPaint()

@@ -20,6 +20,8 @@ bool SceneContentReader::read(const QString &path, Scene *scene)
     };
 
     QFile file(path);
+    if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
+        return refuse(tr("\"%1\" is not a file.").arg(scene->name));
     if (!file.open(QIODevice::ReadOnly))
         return refuse(tr("\"%1\" cannot be opened: %2").arg(scene->name, file.errorString()));
     m_xml.setDevice(&file);
@@ -33,12 +35,17 @@ bool SceneContentReader::read(const QString &path, Scene *scene)
         report();
     }
     if (m_cancelled)
-        return refuse(tr("Opening \"%1\" has been cancelled.").arg(scene->name));
+        return refuse(cancelledText(scene->name));
     if (m_xml.hasError()) {
         return refuse(tr("\"%1\" is damaged in line %2: %3")
                           .arg(scene->name, QString::number(m_xml.lineNumber()), m_xml.errorString()));
     }
     return true;
+}
+
+QString SceneContentReader::cancelledText(const QString &name)
+{
+    return tr("Opening \"%1\" has been cancelled.").arg(name);
 }
 
 QString SceneContentReader::problem() const
@@ -78,10 +85,10 @@ void SceneContentReader::readElement()
 void SceneContentReader::readWall()
 {
     QPolygonF wall;
-    while (m_xml.readNextStartElement()) {
+    while (!m_cancelled && m_xml.readNextStartElement()) {
         if (m_xml.name() == "point"_L1)
             wall << point();
-        m_xml.skipCurrentElement();
+        skipElement();
     }
     m_scene->walls.append(wall);
 }
@@ -94,7 +101,7 @@ void SceneContentReader::readMover(QList<SceneMover> *movers)
     const QStringList tags = text("tags"_L1).split(u',', Qt::SkipEmptyParts);
     for (const QString &tag : tags)
         mover.tags << tag.toInt();
-    while (m_xml.readNextStartElement()) {
+    while (!m_cancelled && m_xml.readNextStartElement()) {
         const QStringView name = m_xml.name();
         if (name == "position"_L1) {
             mover.position = point();
@@ -106,14 +113,26 @@ void SceneContentReader::readMover(QList<SceneMover> *movers)
             mover.preferredSpeed = number("preferred"_L1, mover.preferredSpeed);
             mover.maximumSpeed = number("maximum"_L1, mover.maximumSpeed);
         }
-        m_xml.skipCurrentElement();
+        skipElement();
     }
     movers->append(mover);
 }
 
+/// Like the toolkit's own, but it can be cancelled.
+void SceneContentReader::skipElement()
+{
+    for (int depth = 1; depth > 0 && !m_xml.atEnd() && !m_cancelled; report()) {
+        const QXmlStreamReader::TokenType token = m_xml.readNext();
+        if (token == QXmlStreamReader::StartElement)
+            ++depth;
+        else if (token == QXmlStreamReader::EndElement)
+            --depth;
+    }
+}
+
 void SceneContentReader::report()
 {
-    m_cancelled = isCancelled && isCancelled();
+    m_cancelled = m_cancelled || (isCancelled && isCancelled());
     const int percent = m_size > 0 ? int(m_xml.device()->pos() * 100 / m_size) : 0;
     if (percent == m_percent)
         return;

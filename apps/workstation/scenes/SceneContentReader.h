@@ -22,11 +22,13 @@ public:
     /// False when the file is missing, no scene, broken or cancelled; `problem` has the words for the user.
     bool read(const QString &path, Scene *scene);
     QString problem() const;
+    static QString cancelledText(const QString &name);
 
 private:
     void readElement();
     void readWall();
     void readMover(QList<SceneMover> *movers);
+    void skipElement();
     void report();
     /// A finite number of at most 1,000,000 either way, else @p otherwise.
     double number(QLatin1String attribute, double otherwise = 0.0) const;

@@ -33,7 +33,10 @@ void SceneLoading::load(const QString &path)
         m_outcome.problem = reader.problem();
     }));
     connect(m_thread.get(), &QThread::finished, this, &SceneLoading::finish);
+    m_outcome.problem = tr("There is no thread to open the scene with.");
     m_thread->start();
+    if (!m_thread->isRunning() && !m_thread->isFinished())
+        QMetaObject::invokeMethod(this, &SceneLoading::finish, Qt::QueuedConnection);
 }
 
 void SceneLoading::cancel()
@@ -51,8 +54,10 @@ void SceneLoading::finish()
     m_thread->wait();
     m_thread.release()->deleteLater();
     const Outcome outcome = std::exchange(m_outcome, Outcome());
-    if (outcome.isGood)
-        emit loaded(outcome.scene);
-    else
+    if (!outcome.isGood)
         emit failed(outcome.problem);
+    else if (m_cancelled) // after the reader's last look
+        emit failed(SceneContentReader::cancelledText(outcome.scene.name));
+    else
+        emit loaded(outcome.scene);
 }

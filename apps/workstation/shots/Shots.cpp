@@ -121,9 +121,13 @@ bool drawWindow(PictureFolder &pictures, const QString &projectsFolder)
         good = pictures.save(pictureOf(&window), u"start "_s + projects[row].name()) && good;
     }
 
+    if (!screen->canOpen()) // a folder without scenes
+        return good;
     screen->openSelectedScene();
-    if (!waitUntilLoaded(&window) || !window.showsScene())
-        return good; // a folder without any scene that can be opened
+    if (!waitUntilLoaded(&window) || !window.showsScene()) {
+        std::fprintf(stderr, "the selected scene cannot be opened\n");
+        return false;
+    }
     good = pictures.save(pictureOf(&window), u"scene"_s) && good;
     window.showSceneFacts();
     return pictures.save(pictureWithDialog(&window), u"scene facts"_s) && good;

@@ -73,10 +73,7 @@ StartScreen::StartScreen(const QString &folder, QWidget *parent)
     connect(m_reader, &SceneReader::finished, this, &StartScreen::finishReading);
     connect(m_table, &VelmoScenesTable::renameRequested, this, &StartScreen::renameScene);
     connect(m_table, &VelmoScenesTable::newScenePressed, this, &StartScreen::addScene);
-    connect(m_table, &VelmoScenesTable::selectionChanged, this, [this] {
-        m_openButton->setEnabled(canOpen());
-        emit selectionChanged();
-    });
+    connect(m_table, &VelmoScenesTable::selectionChanged, this, &StartScreen::updateOpening);
     connect(m_openButton, &QPushButton::clicked, this, &StartScreen::openSelectedScene);
     connect(m_projectList, &QListWidget::currentRowChanged, this, &StartScreen::openProject);
 
@@ -195,6 +192,7 @@ void StartScreen::readScenes()
 {
     m_scenes.clear();
     m_table->clearScenes();
+    updateOpening();
     m_status->showNote(tr("Reading scenes\u2026"));
     m_reader->read(m_project.scenes());
 }
@@ -260,6 +258,12 @@ void StartScreen::addScene()
     m_sceneWhenRead = change.scene.name;
     m_noteWhenRead = tr("\"%1\" has been added.").arg(change.scene.name);
     m_reader->readAlso(change.scene);
+}
+
+void StartScreen::updateOpening()
+{
+    m_openButton->setEnabled(canOpen());
+    emit selectionChanged();
 }
 
 QString StartScreen::summary() const

@@ -54,6 +54,7 @@ private:
     void finishReading();
     void renameScene(const QString &oldName, const QString &newName);
     void addScene();
+    void updateOpening();
     QString summary() const;
 
     QList<ProjectFolder> m_projects;

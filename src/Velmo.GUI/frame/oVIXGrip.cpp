@@ -14,7 +14,7 @@ oVIXGrip::oVIXGrip(QWidget *parent, GripPosition position, int inset, int thickn
     setAttribute(Qt::WA_DeleteOnClose);
     if (isVertical())
         setFixedWidth(std::max(thickness, 0));
-    else
+    else if (position == Top || position == Bottom)
         setFixedHeight(std::max(thickness, 0));
     autoResize();
 }

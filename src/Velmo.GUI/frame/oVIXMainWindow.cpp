@@ -170,6 +170,7 @@ void oVIXMainWindow::endWait()
 
 void oVIXMainWindow::showWindowBlock()
 {
+    // Not asked for as visible: in a window that is hidden meanwhile the overlay would never be taken away.
     if (!m_windowBlock || !m_windowBlock->isHidden())
         return;
     showWindowBlockEvent();

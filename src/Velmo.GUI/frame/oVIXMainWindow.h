@@ -60,7 +60,7 @@ signals:
     void closed();
 
 public slots:
-    /// Shows the busy overlay from the next progress report on, without text or percent.
+    /// Shows the busy overlay, without text or percent. The delay of a wait that runs already stays.
     void startWait();
     /// The same with a line of text, empty at first.
     void startWaitWithText();
@@ -78,6 +78,10 @@ public slots:
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
+protected:
+    /// The screen given at construction; null without one, and once it is gone.
+    QPointer<QScreen> m_screen;
+
 private:
     void startWaiting(bool delayed);
 
@@ -89,5 +93,4 @@ private:
     std::array<QPointer<oVIXGrip>, 4> m_edges; // top, bottom, left, right
     QPointer<oVIXWindowBlock> m_windowBlock;
     QPointer<oVIXWindowWaitGlobal> m_windowWait;
-    QPointer<QScreen> m_screen;
 };

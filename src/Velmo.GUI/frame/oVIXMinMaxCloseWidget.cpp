@@ -2,6 +2,8 @@
 
 #include "ui_oVIXMinMaxCloseWidget.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -57,16 +59,21 @@ void oVIXMinMaxCloseWidget::hideCloseButtons()
 void oVIXMinMaxCloseWidget::insertWidget(QWidget *widget, int index)
 {
     if (widget)
-        m_ui->horizontalLayout_2->insertWidget(index, widget);
+        m_ui->horizontalLayout_2->insertWidget(placeInRow(index), widget);
 }
 
 void oVIXMinMaxCloseWidget::insertItem(QLayoutItem *item, int index)
 {
     if (item)
-        m_ui->horizontalLayout_2->insertItem(index, item);
+        m_ui->horizontalLayout_2->insertItem(placeInRow(index), item);
 }
 
 QSize oVIXMinMaxCloseWidget::sizeHint() const
 {
     return QWidget::sizeHint().expandedTo(QSize(0, rowHeight));
+}
+
+int oVIXMinMaxCloseWidget::placeInRow(int index) const
+{
+    return std::min(index, m_ui->horizontalLayout_2->count());
 }

@@ -27,7 +27,8 @@ public:
     /// Hides all three buttons; the row keeps its height.
     void hideCloseButtons();
 
-    /// Puts another control into the row. @p index counts from the left; the row owns the control. Null is ignored.
+    /// Puts another control into the row. @p index counts from the left, a negative one and one past the end
+    /// append; the row owns the control. Null is ignored.
     void insertWidget(QWidget *widget, int index);
     void insertItem(QLayoutItem *item, int index);
 
@@ -40,5 +41,7 @@ signals:
     void s_close();
 
 private:
+    int placeInRow(int index) const;
+
     std::unique_ptr<Ui::oVIXMinMaxCloseWidget> m_ui;
 };

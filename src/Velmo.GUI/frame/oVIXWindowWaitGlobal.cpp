@@ -16,6 +16,7 @@ void oVIXWindowWaitGlobal::startWait(bool delayed)
     startTicks();
     if (m_running.exchange(true))
         return;
+    ++m_waits;
     rewindMovie();
     if (delayed)
         m_delay->start(std::chrono::milliseconds(DelayStartMsecs));
@@ -62,12 +63,13 @@ void oVIXWindowWaitGlobal::progressEvent(QString text)
 
     const StartDelay::Flags flags = m_delay->takePending();
     const bool showNow = onGui && flags.elapsed && m_running;
+    const int wait = m_waits;
     if (onGui && flags.pending && m_running) {
         emit delayFinished();
         if (!alive)
             return;
     }
-    if (showNow && m_running) // the wait may have been ended by the announcement
+    if (showNow && m_running && wait == m_waits) // the announcement may have ended the wait, and begun another
         oVIXWindowWait::progressEvent(text);
     else if (!text.isEmpty())
         setText(text);

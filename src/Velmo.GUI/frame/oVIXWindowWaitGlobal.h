@@ -36,7 +36,7 @@ public:
     using oVIXWindowWait::progressEvent;
 
 signals:
-    /// The start delay is over; emitted once a wait, by the first report on the GUI thread that finds it over. A report
+    /// The start delay is over; emitted once for every end of a delay, by the first report on the GUI thread that finds it over. A report
     /// from another thread in between takes the announcement away.
     void delayFinished();
 
@@ -45,6 +45,7 @@ private:
 
     std::unique_ptr<StartDelay> m_delay;
     std::atomic<bool> m_running = false;
+    std::atomic<int> m_waits = 0; // begun so far
     void *m_callbackContext = nullptr;
     void (*m_callback)(void *) = nullptr;
 };
