@@ -28,7 +28,12 @@ bool isPressKey(const QWidget *widget, const QKeyEvent *event)
 
 void paintFocusRing(QWidget *widget)
 {
-    if (!hasKeyboardFocus(widget))
+    paintFocusRing(widget, widget);
+}
+
+void paintFocusRing(QWidget *widget, const QWidget *focused)
+{
+    if (!hasKeyboardFocus(focused))
         return;
     QPainter painter(widget);
     painter.setRenderHint(QPainter::Antialiasing);

@@ -12,3 +12,5 @@ bool isPressKey(const QWidget *widget, const QKeyEvent *event);
 
 /// Draws the keyboard focus on a widget that has it, inside its own paint event.
 void paintFocusRing(QWidget *widget);
+/// The same on a child that covers @p focused, the widget that takes the keyboard.
+void paintFocusRing(QWidget *widget, const QWidget *focused);

@@ -1,0 +1,94 @@
+#include "choosers/AccessibleChoosers.h"
+
+#include "choosers/oVIXButton.h"
+#include "choosers/oVIXCombo.h"
+#include "foundation/AccessiblePressable.h"
+#include "foundation/AccessibleWidgets.h"
+
+#include <QMenu>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class AccessibleButton : public AccessiblePressable
+{
+public:
+    explicit AccessibleButton(QWidget *widget) : AccessiblePressable(widget, QAccessible::Button) { }
+
+    /// Asked each time: a button may be made checkable after the first question.
+    QAccessible::Role role() const override
+    {
+        return button()->isCheckable() ? QAccessible::CheckBox : QAccessible::Button;
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = AccessiblePressable::state();
+        state.checkable = button()->isCheckable();
+        state.checked = button()->isChecked();
+        return state;
+    }
+
+protected:
+    QString purpose() const override { return button()->text(); }
+    void press() override { button()->click(); }
+
+private:
+    oVIXButton *button() const { return static_cast<oVIXButton *>(widget()); }
+};
+
+class AccessibleCombo : public AccessiblePressable
+{
+public:
+    explicit AccessibleCombo(QWidget *widget) : AccessiblePressable(widget, QAccessible::ComboBox) { }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = AccessiblePressable::state();
+        state.hasPopup = true;
+        state.expandable = true;
+        const QList<QMenu *> menus = widget()->findChildren<QMenu *>(QString(), Qt::FindDirectChildrenOnly);
+        state.expanded = std::any_of(menus.begin(), menus.end(), [](const QMenu *menu) { return menu->isVisible(); });
+        return state;
+    }
+
+    /// It is one control: its parts do nothing that it does not.
+    int childCount() const override { return 0; }
+    QAccessibleInterface *child(int) const override { return nullptr; }
+    QAccessibleInterface *childAt(int, int) const override { return nullptr; }
+    int indexOfChild(const QAccessibleInterface *) const override { return -1; }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? combo()->getCurrentComboText() : AccessiblePressable::text(kind);
+    }
+
+protected:
+    QString purpose() const override { return widget()->findChild<QLabel *>(u"textLabel"_s)->text(); }
+    /// Later, since the menu keeps whoever opens it waiting.
+    void press() override { QMetaObject::invokeMethod(widget(), "buttonClicked", Qt::QueuedConnection); }
+
+private:
+    oVIXCombo *combo() const { return static_cast<oVIXCombo *>(widget()); }
+};
+
+template <class Interface> QAccessibleInterface *make(QWidget *widget)
+{
+    return new Interface(widget);
+}
+
+} // namespace
+
+void AccessibleChoosers::install()
+{
+    static const bool added = [] {
+        AccessibleWidgets::add("oVIXButton", make<AccessibleButton>);
+        AccessibleWidgets::add("oVIXCombo", make<AccessibleCombo>);
+        return true;
+    }();
+    Q_UNUSED(added)
+    AccessibleWidgets::install();
+}

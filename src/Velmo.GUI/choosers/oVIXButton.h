@@ -1,0 +1,72 @@
+#pragma once
+
+#include "VelmoGuiExport.h"
+
+#include <QLabel>
+
+/// A text button, with an optional icon before the text and an optional checked state.
+///
+/// The text is plain text; what is too long is shown with an ellipsis. The button answers the release, not the press,
+/// and only inside itself, so a left double click emits `clicked`, `doubleClicked` and
+/// `clicked` again. With a focus policy set, Space and Return press it.
+///
+/// The look is the widget's own style sheet; a sheet set from outside takes its place, and may tell the checked state
+/// by the selector `[checked="true"]`.
+class VELMO_GUI_EXPORT oVIXButton : public QLabel
+{
+    Q_OBJECT
+    Q_PROPERTY(bool checked READ isChecked WRITE setChecked)
+
+public:
+    explicit oVIXButton(QWidget *parent = nullptr);
+    explicit oVIXButton(const QString &text, QWidget *parent = nullptr);
+    ~oVIXButton() override;
+
+    /// Path of the SVG file shown before the text, such as ":/Windows/AddButton"; empty for none. As high as the text's
+    /// line, and dimmed while the button is disabled.
+    void setIcon(const QString &filename);
+    QString icon() const;
+    /// The icon of the checked state; empty for the same one.
+    void setCheckedIcon(const QString &filename);
+    QString checkedIcon() const;
+
+    /// Whether a left click turns the checked state round before `clicked` is emitted. Off by default.
+    void setCheckable(bool checkable);
+    bool isCheckable() const;
+    /// Can be set whether or not the button is checkable. Emits nothing.
+    void setChecked(bool checked);
+    bool isChecked() const;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+signals:
+    void clicked();
+    void doubleClicked();
+    /// @p position is in global coordinates.
+    void rightClicked(QPoint position);
+
+public slots:
+    /// Does what a left click does, for the keyboard and for assistive tools. Nothing while disabled.
+    void click();
+    /// The same as the `QWidget` slot, which it takes the place of.
+    void setEnabled(bool enabled);
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString shownIcon() const;
+    int iconSide() const;
+    int iconWidth() const;
+    void paintIcon(const QRect &room, int textWidth);
+
+    QString m_icon;
+    QString m_checkedIcon;
+    bool m_checkable = false;
+    bool m_checked = false;
+};

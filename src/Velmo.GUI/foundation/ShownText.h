@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QChar>
+#include <QString>
+
+/// What is measured and painted of a text that may be of any length.
+namespace ShownText {
+
+/// More characters than any line has room for.
+constexpr int longest = 1000;
+
+/// The text on one line: its breaks and tabs are blanks, and beyond the longest line there is an ellipsis.
+inline QString oneLine(const QString &text)
+{
+    QString line = text.left(longest);
+    if (text.size() > longest) {
+        if (line.back().isHighSurrogate())
+            line.chop(1);
+        line += QChar(0x2026);
+    }
+    for (QChar &character : line) {
+        if (character.isSpace() && character.category() != QChar::Separator_Space)
+            character = QLatin1Char(' ');
+    }
+    return line;
+}
+
+} // namespace ShownText
