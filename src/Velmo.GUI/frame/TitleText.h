@@ -1,16 +1,24 @@
 #pragma once
 
+#include "foundation/ShownText.h"
+
 #include <QColor>
 #include <QString>
 
-/// A title line "title: subtitle" as rich text, white and grey. The texts are shown as typed: escaped, and with blanks
-/// that do not break.
-inline QString titleText(const QString &title, const QString &subtitle)
+/// Two texts on one line as rich text, white and grey. They are shown as typed: escaped, and with blanks that do not
+/// break.
+inline QString whiteAndGrey(const QString &white, const QString &grey)
 {
     const auto coloured = [](const QString &text, const QColor &colour) {
-        QString shown = text.toHtmlEscaped();
+        QString shown = ShownText::oneLine(text).toHtmlEscaped();
         shown.replace(QLatin1Char(' '), QLatin1String("&nbsp;"));
         return QStringLiteral("<font color=\"%1\"> %2</font>").arg(colour.name(), shown);
     };
-    return coloured(title + QLatin1String(": "), QColor(Qt::white)) + coloured(subtitle, QColor(156, 156, 156));
+    return coloured(white, QColor(Qt::white)) + coloured(grey, QColor(156, 156, 156));
+}
+
+/// A title line "title: subtitle" in these colours.
+inline QString titleText(const QString &title, const QString &subtitle)
+{
+    return whiteAndGrey(title + QLatin1String(": "), subtitle);
 }

@@ -1,0 +1,3 @@
+#include "docking/OvixThumbnailSize.h"
+
+const QList<int> OvixThumbnailSize::Sizes{None, Small, Medium, Large};
