@@ -1,0 +1,79 @@
+#pragma once
+
+#include "VelmoGuiExport.h"
+
+#include <QLabel>
+
+#include <memory>
+
+/// A flat horizontal bar that shows a filled range between two markers and reports where it is dragged.
+///
+/// The left button picks a ratio, 0 at the left edge and 1 at the right one; what the ratio means is the owner's
+/// business, and so is placing the markers with `posMarkers`: the bar does not move them itself. A drag emits
+/// `valueStarted` at the press, which picks nothing yet, `valueChanged` for every move, and `valueChanged` and
+/// `valueFinished` at the release. Other buttons, the wheel and the keyboard do nothing.
+///
+/// The look is a style sheet that the bar makes from its state and applies while painting, when it has changed; a sheet
+/// given from outside is replaced by it. Under the pointer the markers are bright lines round a bluish fill.
+class VELMO_GUI_EXPORT oVIXSliderBar : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit oVIXSliderBar(QWidget *parent = nullptr);
+    ~oVIXSliderBar() override;
+
+    /// Places the ends of the filled range, as fractions of the width, on the nearest whole pixels. A negative number
+    /// leaves that marker where it is. 0 on the left means no marker: the fill starts at the edge. 1 or more on the
+    /// right means that the fill runs to the edge. Initially the whole bar is filled.
+    void posMarkers(float left, float right);
+    /// Where the markers are now; -1 and 1 before they have been placed.
+    float leftMarker() const;
+    float rightMarker() const;
+
+    /// Adds a border of no width to the sheet. On by default.
+    void setBorderLeft(bool border);
+    void setBorderRight(bool border);
+    /// Rounds both corners of that side by 4 pixels. Off by default.
+    void setRoundedLeft(bool rounded);
+    void setRoundedRight(bool rounded);
+
+    /// The last ratio picked, 0 to 1; 0 before the first.
+    double getSelectedValue() const;
+
+    /// Does what a whole drag to this ratio does, for assistive tools. Nothing while disabled; a ratio outside 0 to 1
+    /// is clamped, and what is not a number is ignored.
+    void pick(double ratio);
+
+signals:
+    void valueStarted();
+    /// @p ratio is in 0 to 1.
+    void valueChanged(double ratio);
+    void valueFinished();
+
+protected slots:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void enterEvent(QEnterEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void markStyleDirty();
+    void generateStyle();
+    void select(double ratio);
+
+    struct Style;
+    std::unique_ptr<Style> m_style;
+    float m_leftMarker = -1.0F;
+    float m_rightMarker = 1.0F;
+    double m_selectedValue = 0.0;
+    bool m_hovered = false;
+    bool m_appliedHover = false;
+    bool m_styleDirty = true;
+    bool m_borderLeft = true;
+    bool m_borderRight = true;
+    bool m_roundedLeft = false;
+    bool m_roundedRight = false;
+};

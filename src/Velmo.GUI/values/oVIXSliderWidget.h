@@ -1,0 +1,157 @@
+#pragma once
+
+#include "VelmoGuiExport.h"
+
+#include <QAbstractSpinBox>
+
+#include <memory>
+
+namespace Ui {
+class oVIXSliderWidget;
+}
+
+/// A row of 20 pixels that edits a number, or both ends of a range: a slider bar with a prefix on it, number boxes and
+/// step arrows. In the lateral mode there is no bar, only a framed number between two arrows.
+///
+/// The user drags the bar, types, presses the arrows or the Up and Down keys, or turns the wheel over a box. Every new
+/// value is announced by `valueChanged` (`valueMinChanged` for the lower end of a range); `valueStarted` comes before a
+/// drag, and `valueFinished` when an edit is complete: owners commit then. An edit that leaves everything within 1e-6
+/// of what was last committed or set finishes without `valueFinished`; only Return and Enter always emit it, when the
+/// key is released.
+///
+/// Every value is kept by integer and by double boxes, the setters set both, and a mode reads those that it shows.
+/// So a setter may emit `valueChanged(int)` as well as `valueChanged(double)`. Integer boxes take doubles without their
+/// fraction, and the nearest they can hold of what is too large.
+///
+/// The bar ends at the slider maximum, a soft limit; the boxes go up to their own maximum, and the bar is full then. A
+/// drag rounds to whole numbers where snapping is on, else to hundredths from the minimum. In a range it moves the
+/// nearer handle. When an edit finishes, the lower end's boxes are limited to the upper end.
+///
+/// Numbers given to a setter that are not numbers make it do nothing; infinite ones become the largest finite ones.
+/// The widget may be destroyed by any signal of a drag or a setter. While the user types or steps, a box has not ended
+/// its work when the signal comes: use `deleteLater`.
+class VELMO_GUI_EXPORT oVIXSliderWidget : public QAbstractSpinBox
+{
+    Q_OBJECT
+
+public:
+    /// Integer modes snap to whole numbers, the others do not; see `setSnapToInteger`.
+    enum SLIDERMODE : int {
+        IntegerRange = 0,
+        SingleInteger = 1,
+        DoubleRange = 2,
+        SingleDouble = 3,
+        Lateral = 4, ///< no bar: a number between a left and a right arrow
+        LateralPlain = 5 ///< the same as `Lateral`
+    };
+    Q_ENUM(SLIDERMODE)
+
+    /// A widget in the mode `SingleInteger`.
+    explicit oVIXSliderWidget(QWidget *parent = nullptr);
+    ~oVIXSliderWidget() override;
+
+    /// Shows the editors of this mode; values stay. Resets the snapping and the layout's margins. A number that is no
+    /// mode shows nothing.
+    void changeMode(SLIDERMODE mode);
+
+    /// The value or upper end: its limits, value and step, in this order. @p max becomes the slider maximum too.
+    void setLimitsAndValues(double min, double max, double value, double step);
+    /// The same for the lower end of a range. @p max becomes the slider maximum too.
+    void setLimitsAndValuesMin(double min, double max, double value, double step);
+
+    /// Sets the value or upper end, and takes it for committed: `valueFinished` is only emitted when the boxes have
+    /// changed it.
+    void setValue(double value);
+    /// The same for the lower end of a range.
+    void setValueMin(double value);
+
+    /// Lower limit of all boxes.
+    void setMinimum(double minimum);
+    /// Upper limit of the bar and of all boxes.
+    void setMaximum(double maximum);
+    /// The value at the right end of the bar, the soft limit. Initially 0.
+    void setSliderMaximum(double maximum);
+    /// Upper limit of all boxes, the hard limit.
+    void setSpinBoxMaximum(double maximum);
+    /// Step of the value or upper end; the lower end keeps its own. Integer boxes take it without its
+    /// fraction: they stand still when it is below 1.
+    void setSingleStep(double step);
+    void setDecimals(int decimals);
+
+    /// The text on the bar, or before the number where there is no bar.
+    void setPrefix(const QString &prefix);
+    QString getPrefix() const;
+    /// The text behind every number.
+    void setSuffix(const QString &suffix);
+
+    /// Whether a drag rounds to whole numbers. The next `changeMode` resets it.
+    void setSnapToInteger(bool snap);
+
+    /// Shows number and prefix of the lateral mode in this colour, written as in a style sheet.
+    void setColorNoSliderMode(const QString &colour);
+
+    /// The value, or the upper end of a range.
+    double value() const;
+    /// The lower end of a range; 0 in the other modes.
+    double valueMin() const;
+    double minimum() const;
+    double spinBoxMaximum() const;
+    double sliderMaximum() const;
+
+    /// Whether one of the boxes has the keyboard.
+    bool hasFocus() const;
+
+    /// Moves the bar's markers to the values. Every change of a value does so.
+    void updateSlider();
+
+    /// Those of the row, unlike those of a spin box.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+signals:
+    void valueStarted();
+    void valueChanged(int value);
+    void valueChanged(double value);
+    void valueMinChanged(int value);
+    void valueMinChanged(double value);
+    void valueFinished();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+
+private slots:
+    void fnSliderMoved(double ratio);
+    void fnSpinboxValueChanged();
+    void fnSpinboxArrowClicked();
+    void fnLateralArrowClicked();
+    void fnSpinboxFinished();
+    void fnValueFinished();
+
+private:
+    friend class AccessibleSliderWidget;
+
+    bool isRange() const;
+    bool isInteger() const;
+    bool isLateral() const;
+    bool hasBar() const;
+    double lowerLimit() const;
+    double snapRatio(double ratio) const;
+    double ratioOfMinimum() const;
+    double ratioOfValue() const;
+    void updateMinLimits();
+    void setSliderEnd(double maximum);
+    void stepAndFinish(QAbstractSpinBox *box, bool up);
+    QAbstractSpinBox *valueEditor() const;
+    QList<QAbstractSpinBox *> editors() const;
+
+    std::unique_ptr<Ui::oVIXSliderWidget> m_ui;
+    QString m_prefix;
+    SLIDERMODE m_mode = SingleInteger;
+    bool m_snapToInteger = false;
+    double m_sliderMaximum = 0.0;
+    double m_lastFinishedValue = 0.0;
+    double m_lastFinishedMinimum = 0.0;
+};

@@ -1,0 +1,137 @@
+#pragma once
+
+#include "VelmoGuiExport.h"
+
+#include <QFrame>
+#include <QPointer>
+
+#include <array>
+#include <memory>
+
+class OvixMovableLabel;
+class QGraphicsOpacityEffect;
+class QPropertyAnimation;
+class QTimer;
+struct Crop;
+
+namespace Ui {
+class oVIXTimebarWidget;
+}
+
+/// The frame timeline of the player: a thin bar of the frames from 0 to a maximum that shows what has been computed
+/// (cached), a crop range and the current play frame, below three markers for the current time and both ends of the
+/// crop. Markers fade in while the pointer is over the timebar and out three seconds after it has left; unseen, they
+/// still take the mouse. They can be dragged, and edited by a double click.
+///
+/// The application gives the frames; the timebar keeps them consistent: the play value is never beyond what is cached
+/// and stays inside the crop. A frame picked by the user (a click on the bar, a drag or an edit of the current marker)
+/// blocks every change of the play value until the application has taken it over and calls `unblock`.
+///
+/// All values are frames. The timebar is 40 logical pixels high. A signal is the last thing that a change does, so the
+/// timebar may be deleted from it; with `deleteLater` while the user edits a marker, for the end of the edit may come
+/// from another of its markers that takes the keyboard.
+class VELMO_GUI_EXPORT oVIXTimebarWidget : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit oVIXTimebarWidget(QWidget *parent = nullptr);
+    ~oVIXTimebarWidget() override;
+
+    /// The last frame, 100 at first. Play value and cached value go to 0, the markers to 0, 0 and the last frame; the
+    /// crop values stay. A negative one is ignored.
+    void setMaxValue(int maximum);
+    int getMax() const;
+    /// The last frame that has been computed. Ignored beyond the maximum plus one. Shows with the next
+    /// `setPlayWidgetFrame`.
+    void updateCachedValue(int frame);
+    int getCached() const;
+
+    /// Asks for a play frame. The play value takes it when it has been computed; the marker goes there anyway.
+    void setPlayWidgetFrame(int frame);
+    int getTimeValue() const;
+    int getCurrentPlayValue() const;
+    /// The frame last picked by the user, 0 at first.
+    int getSelectedValue() const;
+    /// Lets the play value change again after the user has picked a frame.
+    void unblock();
+
+    /// Both ends in any order, from the first frame to 100 at first. They may be beyond the maximum.
+    void setCropValues(int first, int second);
+    int getCropStartValue() const;
+    int getCropEndValue() const;
+    /// The same as shares of the maximum; 0 with a maximum of 0.
+    float getCropStartPos() const;
+    float getCropEndPos() const;
+    /// Takes a current marker outside the crop, and the play value with it, to the crop's start. From its end too:
+    /// playing loops inside the crop.
+    void constrainPlayTimeToCropValues();
+
+    /// The frame where playing begins, as a share of the maximum of now.
+    void setPlayStart(float share);
+    int getPlayStart() const;
+
+    void showCrops(bool show);
+    /// Whether clicks on the bar pick frames (default yes), and whether the current marker shows. Yes also shows the
+    /// crop markers.
+    void setClickable(bool clickable);
+    bool isClickable() const;
+
+    /// Fits the markers' ways to the width. Done at every resize.
+    void updateMinMaxValues();
+
+signals:
+    void s_valuePicked();
+    void s_cropChanged();
+
+public slots:
+    void timeSelected();
+    void timeDragChange();
+    void timeDragReleased();
+    void timeLabelEditStarted();
+    void timeLabelEditFinished();
+    void leftCropChanged();
+    void leftCropEditStarted();
+    void leftCropEditFinished();
+    void rightCropChanged();
+    void rightCropEditStarted();
+    void rightCropEditFinished();
+    void cropDragReleased();
+    void hideLabels();
+    void showLabels();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    std::array<OvixMovableLabel *, 3> markers() const;
+    void connectMarkers();
+    void setCurrentPlayValue(int frame);
+    void updateBar();
+    void fitToWidth();
+    void pickMarkerFrame(bool interacting);
+    void applyCrop(const Crop &crop, bool interacting);
+    void applyLeftCrop(bool interacting);
+    void applyRightCrop(bool interacting);
+    void endInteraction();
+    void hideLaterIfLeft();
+    bool isPointerInside() const;
+    double timeMarkerOpacity() const;
+    void fade(double opacity, int msecs);
+
+    std::unique_ptr<Ui::oVIXTimebarWidget> m_ui;
+    std::array<QGraphicsOpacityEffect *, 3> m_opacities = {};
+    std::array<QPointer<QPropertyAnimation>, 3> m_fades;
+    QTimer *m_hideTimer;
+    int m_playValue = 0;
+    int m_cachedValue = 0;
+    int m_maximum = 0;
+    int m_selectedValue = 0;
+    int m_cropStart = 0;
+    int m_cropEnd = 0;
+    int m_playStart = 0;
+    bool m_blocked = false;
+    bool m_interacting = false;
+    bool m_fadingIn = false;
+};
