@@ -84,5 +84,6 @@ function(velmo_desktop_test name)
     add_test(NAME desktop.${name}
         COMMAND "${CMAKE_CURRENT_SOURCE_DIR}/desktop/run-on-desktop.sh" $<TARGET_FILE:${name}> -platform xcb)
     velmo_test_environment(desktop.${name})
-    set_tests_properties(desktop.${name} PROPERTIES LABELS desktop)
+    # A user's patience is part of some of them.
+    set_tests_properties(desktop.${name} PROPERTIES LABELS desktop RUN_SERIAL ON)
 endfunction()

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QSettings>
 
 #include <algorithm>
 #include <cstdio>
@@ -104,6 +105,7 @@ int main(int argc, char **argv)
     for (int i = 0; i < argc; ++i)
         rawArguments << QString::fromLocal8Bit(argv[i]);
     const QString currentFolder = QDir::currentPath();
+    QCoreApplication::setOrganizationName(u"Velmo"_s);
     QCoreApplication::setApplicationName(u"workstation"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(WORKSTATION_RELEASE));
 
@@ -124,8 +126,10 @@ int main(int argc, char **argv)
     const CommandLine line = CommandLine::parse(QCoreApplication::arguments(), currentFolder);
     const QString projectsFolder = line.projectsFolder.isEmpty() ? ShippedProjects::folder() : line.projectsFolder;
     switch (line.task) {
-    case CommandLine::Task::StartScreen:
-        return run(std::make_unique<WorkstationWindow>(projectsFolder));
+    case CommandLine::Task::StartScreen: {
+        QSettings settings;
+        return run(std::make_unique<WorkstationWindow>(projectsFolder, &settings));
+    }
     case CommandLine::Task::Gallery:
         return openGallery(line.galleryPage);
     case CommandLine::Task::Shots:

@@ -2,20 +2,31 @@
 #include "support/TestCase.h"
 
 #include "OvixSvgButton.h"
+#include "oVIXButton.h"
+#include "oVIXCombo.h"
 #include "oVIXGrip.h"
+#include "oVIXSliderWidget.h"
+#include "oVIXTimebarWidget.h"
 #include "oVIXWindowWaitGlobal.h"
+#include "panels/CrowdEditor.h"
+#include "panels/LibraryPanel.h"
+#include "panels/ParametersPanel.h"
 #include "start/StartScreen.h"
 #include "start/StatusLine.h"
 #include "window/SceneFactsDialog.h"
 #include "window/ScenePage.h"
+#include "window/SceneView.h"
 #include "window/WorkstationWindow.h"
 
 #include <QDir>
 #include <QFile>
+#include <QListView>
 #include <QMenuBar>
+#include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -30,13 +41,15 @@ private slots:
         m_folder = std::make_unique<QTemporaryDir>();
         QVERIFY(QDir(m_folder->path()).mkdir(u"Airport"_s));
         write(u"Hall"_s, "<actors><actor/><actor/></actors>");
-        m_window = std::make_unique<WorkstationWindow>(m_folder->path());
+        m_settings = std::make_unique<QSettings>(m_folder->filePath(u"settings.ini"_s), QSettings::IniFormat);
+        m_window = std::make_unique<WorkstationWindow>(m_folder->path(), m_settings.get());
         Gestures::show(m_window.get());
         QTRY_VERIFY(!m_window->startScreen()->isReading());
     }
     void cleanup()
     {
         m_window.reset();
+        m_settings.reset();
         m_folder.reset();
         TestCase::cleanup();
     }
@@ -99,6 +112,111 @@ private slots:
         QVERIFY(!block->isVisible());
     }
 
+    void panelsBelongToTheOpenScene()
+    {
+        LibraryPanel *library = m_window->libraryPanel();
+        ParametersPanel *parameters = m_window->parametersPanel();
+        QVERIFY(!library->isVisible() && !action(u"Library: Kinds"_s)->isEnabled());
+        m_window->openScene(path(u"Hall"_s));
+        QTRY_VERIFY(library->isVisible() && parameters->isVisible());
+        action(u"Library: Kinds"_s)->trigger();
+        parameters->setFloating(true);
+        m_window->closeScene();
+        QVERIFY(!library->isVisible() && !parameters->isVisible());
+        m_window->resize(1100, 700);
+        m_window->close();
+
+        WorkstationWindow again(m_folder->path(), m_settings.get());
+        Gestures::show(&again);
+        QCOMPARE(again.size(), QSize(1100, 700));
+        QVERIFY(!again.parametersPanel()->isVisible());
+        again.openScene(path(u"Hall"_s));
+        QTRY_VERIFY(again.parametersPanel()->isVisible());
+        QVERIFY(again.parametersPanel()->isFloating() && !again.libraryPanel()->isVisible());
+    }
+
+    void theLibraryFindsAndHighlightsKinds()
+    {
+        write(u"Street"_s,
+              "<actors><actor type=\"adult\"/><actor type=\"adult\"/><actor type=\"child\"/></actors>"
+              "<vehicles><vehicle type=\"tram\"/></vehicles>");
+        m_window->openScene(path(u"Street"_s));
+        QTRY_VERIFY(m_window->showsScene());
+        LibraryPanel *library = m_window->libraryPanel();
+        auto *list = library->findChild<QListView *>();
+        const auto shown = [list] {
+            QStringList texts;
+            for (int row = 0; row < list->model()->rowCount(); ++row)
+                texts << list->model()->index(row, 0).data().toString();
+            return texts.join(u"; "_s);
+        };
+        QCOMPARE(shown(), u"adult, 2; child, 1; tram, 1"_s);
+        library->changeSearchLabel(u"TR"_s);
+        QCOMPARE(shown(), u"tram, 1"_s);
+        list->setCurrentIndex(list->model()->index(0, 0));
+        QCOMPARE(m_window->scenePage()->view()->options().highlightedType, u"tram"_s);
+        for (const int size : {200, 0}) {
+            library->showThumbnails(size);
+            QCOMPARE(list->model()->index(0, 0).data(Qt::DecorationRole).isNull(), size == 0);
+        }
+    }
+
+    void bakesAndPlaysInsideTheCrop()
+    {
+        write(u"Walk"_s,
+              "<timeline frames=\"40\" fps=\"100\"><crop first=\"10\" last=\"20\"/></timeline><actors><actor>"
+              "<goal x=\"50\" y=\"0\"/></actor></actors>");
+        m_window->openScene(path(u"Walk"_s));
+        QTRY_VERIFY(m_window->showsScene());
+        ScenePage *page = m_window->scenePage();
+        oVIXTimebarWidget *timebar = page->timebar();
+        page->setPlaying(true);
+        QVERIFY(!page->isPlaying()); // nothing is baked
+        CrowdEditor *crowd = m_window->parametersPanel()->crowd();
+        crowd->findChild<oVIXButton *>()->click();
+        QTRY_VERIFY(!page->bake().isRunning());
+        QCOMPARE(page->bake().computedFrames(), 40);
+        QCOMPARE(timebar->getMax(), 39);
+        QCOMPARE(timebar->getCached(), 39);
+
+        const auto shownX = [page] { return page->view()->scene().people.first().position.x(); };
+        page->goToFrame(18);
+        QCOMPARE(shownX(), page->bake().positions(18).first().x());
+        page->setPlaying(true);
+        QTRY_VERIFY(timebar->getCurrentPlayValue() < 18); // beyond its end the crop begins again
+        for (int i = 0; i < 30; ++i) {
+            QTest::qWait(5);
+            QVERIFY(timebar->getCurrentPlayValue() >= 10 && timebar->getCurrentPlayValue() <= 20);
+        }
+        auto *count = crowd->findChild<oVIXSliderWidget *>();
+        count->setValue(5);
+        emit count->valueFinished();
+        QVERIFY(!page->isPlaying());
+        QCOMPARE(page->bake().computedFrames(), 0);
+        QCOMPARE(page->view()->scene().people.size(), 5);
+        crowd->findChild<oVIXButton *>()->click();
+        m_window->closeScene();
+        QVERIFY(!page->bake().isRunning());
+    }
+
+    void viewAndParametersKeepOneZoom()
+    {
+        m_window->openScene(path(u"Hall"_s));
+        QTRY_VERIFY(m_window->showsScene());
+        SceneView *view = m_window->scenePage()->view();
+        const auto combos = m_window->parametersPanel()->findChildren<oVIXCombo *>();
+        QCOMPARE(combos[1]->getCurrentComboText(), u"100 %"_s);
+        QWheelEvent turn(QPointF(50, 50), view->mapToGlobal(QPointF(50, 50)), {}, {0, 120}, Qt::NoButton, {},
+                         Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(view, &turn);
+        QCOMPARE(combos[1]->getCurrentComboText(), u"125 %"_s);
+        QVERIFY(combos[1]->isOverride());
+        combos[2]->setChecked(true);
+        emit combos[2]->currentIndexChanged(0);
+        QCOMPARE(view->options().zoom, 1.25);
+        QVERIFY(view->options().goals);
+    }
+
     void maximisesAndRestores()
     {
         auto *button = m_window->findChild<OvixSvgButton *>(u"btMax"_s);
@@ -137,6 +255,7 @@ private:
     StatusLine *status() const { return m_window->startScreen()->findChild<StatusLine *>(); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<QSettings> m_settings;
     std::unique_ptr<WorkstationWindow> m_window;
 };
 

@@ -20,7 +20,7 @@ void run(const QStringList &arguments)
     const bool ended = QTest::qWaitFor([&process] { return process.state() == QProcess::NotRunning; }, 20000);
     if (!ended || process.exitCode() != 0)
         QTest::qFail(qPrintable(u"xdotool "_s + arguments.join(u' ')), __FILE__, __LINE__);
-    QTest::qWait(20); // what the window system still has on its way
+    QTest::qWait(50); // what the window system still has on its way
 }
 
 } // namespace

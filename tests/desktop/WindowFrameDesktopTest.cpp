@@ -78,6 +78,8 @@ private slots:
         QTRY_COMPARE(m_window->geometry(), place);
         QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
 
+        RealInput::moveTo(title()); // to where the window is again
+        QTRY_VERIFY(m_window->menuBar()->underMouse());
         RealInput::click(middleOf(u"btClose"_s));
         QTRY_VERIFY(!m_window->isVisible());
     }
@@ -87,7 +89,7 @@ private:
 
     /// A place of the menu bar without a menu.
     QPoint title() const { return m_window->menuBar()->mapToGlobal(QPoint(300, 15)); }
-    OvixSvgButton *button(const QString &name) const { return m_window->findChild<OvixSvgButton *>(name); }
+    OvixSvgButton *button(const QString &name) const { return m_window->menuBar()->findChild<OvixSvgButton *>(name); }
     QPoint middleOf(const QString &name) const { return button(name)->mapToGlobal(button(name)->rect().center()); }
 
     std::unique_ptr<QTemporaryDir> m_folder;

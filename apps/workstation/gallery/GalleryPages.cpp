@@ -1,12 +1,19 @@
 #include "gallery/GalleryPages.h"
 
+#include "gallery/ChoosersPage.h"
 #include "gallery/DialogsPage.h"
+#include "gallery/DockingPage.h"
 #include "gallery/IconStatesPage.h"
 #include "gallery/IconsPage.h"
 #include "gallery/LabelsPage.h"
 #include "gallery/OverlaysPage.h"
+#include "gallery/PieChartPage.h"
+#include "gallery/ProgressBarsPage.h"
 #include "gallery/SceneListPage.h"
+#include "gallery/SlidersPage.h"
+#include "gallery/TimebarPage.h"
 #include "gallery/TitleBarsPage.h"
+#include "gallery/TogglesPage.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,6 +26,13 @@ QList<GalleryPages::Page> GalleryPages::all()
         {u"title-bars"_s, TitleBarsPage::tr("Title bars"), [] { return new TitleBarsPage; }},
         {u"overlays"_s, OverlaysPage::tr("Overlays"), [] { return new OverlaysPage; }},
         {u"dialogs"_s, DialogsPage::tr("Dialogs"), [] { return new DialogsPage; }},
+        {u"choosers"_s, ChoosersPage::tr("Choosers"), [] { return new ChoosersPage; }},
+        {u"docking"_s, DockingPage::tr("Docking"), [] { return new DockingPage; }},
+        {u"sliders"_s, SlidersPage::tr("Sliders"), [] { return new SlidersPage; }},
+        {u"timebar"_s, TimebarPage::tr("Timebar"), [] { return new TimebarPage; }},
+        {u"progress-bars"_s, ProgressBarsPage::tr("Progress bars"), [] { return new ProgressBarsPage; }},
+        {u"pie-chart"_s, PieChartPage::tr("Pie chart"), [] { return new PieChartPage; }},
+        {u"toggles"_s, TogglesPage::tr("Toggles"), [] { return new TogglesPage; }},
         {u"scene-list"_s, SceneListPage::tr("Scene list"), [] { return new SceneListPage; }},
     };
 }

@@ -52,6 +52,7 @@ void ApplicationLook::install()
 
     const QString sheet = oVIXStyle::getAppStyleSheet();
     replaceFirstFamilyOf(sheet);
+    QFont::insertSubstitution(u"default"_s, fontFamily); // what the headers of panels ask for
     qApp->setStyleSheet(sheet);
 }
 

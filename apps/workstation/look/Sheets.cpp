@@ -17,6 +17,7 @@ QString Sheets::window()
             "#panelTitle { font-family:Inter; font-size:13px; font-weight:600; color:rgb(219,219,219); }"
             "#panelNote { font-family:Inter; font-size:11px; color:rgb(156,156,156); }"
             "#emptyNote { font-family:Inter; font-size:13px; color:rgb(156,156,156); }"
+            "#player { background-color:rgb(28,28,28); border-top:1px solid rgb(59,59,59); }"
             "#statusLine { background-color:rgb(28,28,28); border-top:1px solid rgb(59,59,59); }"
             "#statusText { font-family:Inter; font-size:11px; color:rgb(156,156,156); }"
             "#statusText[problem=\"true\"] { color:rgb(249,199,26); }"
@@ -29,6 +30,20 @@ QString Sheets::nameList()
             "QListWidget::item { height:28px; padding-left:8px; border-radius:3px; color:rgb(156,156,156); }"
             "QListWidget::item:hover { background-color:rgba(255,255,255,38); color:rgb(255,255,255); }"
             "QListWidget::item:selected { background-color:rgba(116,211,252,48); color:rgb(116,211,252); }"_s;
+}
+
+QString Sheets::library()
+{
+    return u"QListView { font-family:Inter; font-size:11px; border:0px; background-color:rgb(39,39,39);"
+            " color:rgb(156,156,156); padding:8px; }"
+            "QListView::item { padding:3px; border-radius:3px; color:rgb(156,156,156); }"
+            "QListView::item:hover { background-color:rgba(255,255,255,38); color:rgb(255,255,255); }"
+            "QListView::item:selected { background-color:rgba(116,211,252,48); color:rgb(116,211,252); }"_s;
+}
+
+QString Sheets::toolPanel()
+{
+    return u"#panel { background-color:rgb(39,39,39); }"_s;
 }
 
 QString Sheets::scrollBar()

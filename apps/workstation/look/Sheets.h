@@ -10,6 +10,10 @@ namespace Sheets {
 QString window();
 /// A list of names with rounded rows: accent while selected, lighter under the pointer.
 QString nameList();
+/// A list of pictures with a line of words below each, or of words only.
+QString library();
+/// What a tool panel holds: a widget called panel.
+QString toolPanel();
 /// A slim bar without arrows.
 QString scrollBar();
 /// A button with words; the default one in the accent colour.

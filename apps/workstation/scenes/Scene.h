@@ -39,6 +39,11 @@ struct Scene
     QString bakeStatus;
     QString groundName;
     QSizeF ground;
+    /// Length of the scene, and the part of it that is played.
+    int frames = 0;
+    int framesPerSecond = 25;
+    int cropFirst = 0;
+    int cropLast = 0;
     QList<QPolygonF> walls;
     QList<SceneTag> tags;
     QList<SceneMover> people;

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -67,6 +68,12 @@ void SceneContentReader::readElement()
         step(tr("Reading the ground"));
         m_scene->groundName = text("name"_L1);
         m_scene->ground = {number("width"_L1), number("depth"_L1)};
+    } else if (name == "timeline"_L1) {
+        m_scene->frames = std::max(0, int(number("frames"_L1)));
+        m_scene->framesPerSecond = std::clamp(int(number("fps"_L1, 25)), 1, 240);
+    } else if (name == "crop"_L1) {
+        m_scene->cropFirst = int(number("first"_L1));
+        m_scene->cropLast = int(number("last"_L1));
     } else if (name == "wall"_L1) {
         readWall();
     } else if (name == "tag"_L1) {

@@ -4,15 +4,18 @@
 #include "gallery/GalleryWindow.h"
 #include "shots/PictureFolder.h"
 #include "start/StartScreen.h"
+#include "window/ScenePage.h"
 #include "window/WorkstationWindow.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QDialog>
 #include <QDir>
 #include <QEventLoop>
 #include <QPainter>
 #include <QPixmap>
 #include <QProcess>
+#include <QScreen>
 #include <QTimer>
 
 #include <atomic>
@@ -105,6 +108,17 @@ QImage pictureWithDialog(QWidget *window)
     return picture;
 }
 
+bool waitUntilBaked(const ScenePage *page)
+{
+    if (!page->bake().isRunning())
+        return true;
+    QEventLoop loop;
+    QObject::connect(page, &ScenePage::bakingChanged, &loop, &QEventLoop::quit);
+    QTimer::singleShot(longestReading, &loop, &QEventLoop::quit);
+    loop.exec();
+    return !page->bake().isRunning();
+}
+
 bool drawWindow(PictureFolder &pictures, const QString &projectsFolder)
 {
     WorkstationWindow window(projectsFolder);
@@ -129,6 +143,14 @@ bool drawWindow(PictureFolder &pictures, const QString &projectsFolder)
         return false;
     }
     good = pictures.save(pictureOf(&window), u"scene"_s) && good;
+    ScenePage *page = window.scenePage();
+    page->toggleBaking();
+    if (!waitUntilBaked(page)) {
+        std::fprintf(stderr, "baking takes too long\n");
+        return false;
+    }
+    page->goToFrame(page->bake().frameCount() / 6);
+    good = pictures.save(pictureOf(&window), u"scene baked"_s) && good;
     window.showSceneFacts();
     return pictures.save(pictureWithDialog(&window), u"scene facts"_s) && good;
 }
@@ -180,6 +202,7 @@ int Shots::draw(const QString &folder, const QString &projectsFolder, double sca
 {
     const WarningCounter warnings;
     QApplication::setCursorFlashTime(0);
+    QCursor::setPos(QGuiApplication::primaryScreen()->virtualGeometry().bottomRight()); // over nothing
     PictureFolder pictures(folder, scale);
     const bool windowDrawn = drawWindow(pictures, projectsFolder);
     const bool galleryDrawn = drawGallery(pictures);

@@ -51,7 +51,6 @@ StartScreen::StartScreen(const QString &folder, QWidget *parent)
     setObjectName(u"window"_s);
     setAttribute(Qt::WA_StyledBackground);
     setStyleSheet(Sheets::window());
-    setMinimumSize(smallestSize);
 
     auto *header = new HeaderBar(this);
     header->setSubtitle(QDir::toNativeSeparators(folder));
@@ -93,6 +92,11 @@ void StartScreen::selectProject(int row)
 bool StartScreen::isReading() const
 {
     return m_reader->isReading();
+}
+
+QSize StartScreen::minimumSizeHint() const
+{
+    return smallestSize;
 }
 
 bool StartScreen::canOpen() const

@@ -30,6 +30,8 @@ public:
     void selectProject(int row);
     bool isReading() const;
 
+    QSize minimumSizeHint() const override;
+
     /// Whether a scene is selected.
     bool canOpen() const;
     /// Asks for the selected scene to be opened.

@@ -1,14 +1,43 @@
 #include "window/ScenePage.h"
 
 #include "look/Sheets.h"
+#include "simulation/Crowd.h"
 #include "start/StatusLine.h"
 #include "window/SceneView.h"
 
-#include <QVBoxLayout>
+#include <OvixSvgButton.h>
+#include <oVIXFloatingProgressBar.h>
+#include <oVIXTimebarWidget.h>
+#include <oVIXToggle.h>
+
+#include <QHBoxLayout>
+
+#include <algorithm>
+#include <chrono>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
-ScenePage::ScenePage(QWidget *parent) : QWidget(parent), m_view(new SceneView(this)), m_facts(new StatusLine(this))
+namespace {
+
+constexpr int defaultSeconds = 20;
+constexpr qint64 mostPositions = 20'000'000; // of all people in all frames, to stay within 320 MB
+constexpr int trailFrames = 50;
+constexpr int trailStep = 2;
+constexpr auto bakeShown = 40ms;
+constexpr QSize playSize(32, 32);
+
+int framesFor(const Scene &scene, int people)
+{
+    const int wanted = scene.frames > 0 ? scene.frames : defaultSeconds * scene.framesPerSecond;
+    return int(std::min<qint64>(wanted, mostPositions / std::max(1, people)));
+}
+
+} // namespace
+
+ScenePage::ScenePage(QWidget *parent)
+    : QWidget(parent), m_view(new SceneView(this)), m_progress(new oVIXFloatingProgressBar(m_view)),
+      m_facts(new StatusLine(this))
 {
     setObjectName(u"window"_s);
     setStyleSheet(Sheets::window());
@@ -16,12 +45,30 @@ ScenePage::ScenePage(QWidget *parent) : QWidget(parent), m_view(new SceneView(th
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_view, 1);
+    layout->addWidget(createPlayer());
     layout->addWidget(m_facts);
+    m_progress->hide();
+
+    connect(&m_playTimer, &QTimer::timeout, this, &ScenePage::playNext);
+    m_bakeTimer.setInterval(bakeShown);
+    connect(&m_bakeTimer, &QTimer::timeout, this, &ScenePage::showBaked);
+    connect(&m_bake, &Bake::stopped, this, &ScenePage::finishBaking);
+    connect(m_timebar, &oVIXTimebarWidget::s_valuePicked, this, &ScenePage::takeOverPickedFrame);
+    connect(m_timebar, &oVIXTimebarWidget::s_cropChanged, this, [this] { m_timebar->constrainPlayTimeToCropValues(); });
 }
 
 void ScenePage::setScene(const Scene &scene)
 {
+    setPlaying(false);
+    m_scene = scene;
     m_view->setScene(scene);
+    CrowdSettings settings;
+    settings.count = int(scene.people.size());
+    setCrowd(settings);
+    const int last = std::max(0, framesFor(scene, settings.count) - 1);
+    const bool hasCrop = scene.cropLast > scene.cropFirst;
+    m_timebar->setCropValues(hasCrop ? std::clamp(scene.cropFirst, 0, last) : 0,
+                             hasCrop ? std::clamp(scene.cropLast, 0, last) : last);
     m_facts->showNote(tr("%1: %2 people, %3 vehicles, %4")
                           .arg(scene.name, QString::number(scene.people.size()), QString::number(scene.vehicles.size()),
                                scene.groundName));
@@ -29,5 +76,169 @@ void ScenePage::setScene(const Scene &scene)
 
 const Scene &ScenePage::scene() const
 {
-    return m_view->scene();
+    return m_scene;
+}
+
+SceneView *ScenePage::view() const
+{
+    return m_view;
+}
+
+oVIXTimebarWidget *ScenePage::timebar() const
+{
+    return m_timebar;
+}
+
+const Bake &ScenePage::bake() const
+{
+    return m_bake;
+}
+
+void ScenePage::setCrowd(const CrowdSettings &settings)
+{
+    setPlaying(false);
+    m_settings = settings;
+    m_bake.clear();
+    m_timebar->setMaxValue(std::max(0, framesFor(m_scene, settings.count) - 1));
+    m_timebar->setPlayWidgetFrame(0);
+    m_view->setPeople(Crowd(m_scene, settings).people());
+    m_playButton->setEnabled(false);
+}
+
+void ScenePage::toggleBaking()
+{
+    if (m_bake.isRunning()) {
+        m_bake.stop();
+        return;
+    }
+    setPlaying(false);
+    m_bake.start(m_scene, m_settings, framesFor(m_scene, m_settings.count), m_scene.framesPerSecond);
+    m_timebar->setMaxValue(std::max(0, m_bake.frameCount() - 1));
+    m_progress->setPercent(0);
+    m_progress->show();
+    m_progress->raise();
+    m_progress->moveToBottom();
+    m_bakeTimer.start();
+    m_facts->showNote(tr("Baking %1 frames of %2 people")
+                          .arg(QString::number(m_bake.frameCount()), QString::number(m_settings.count)));
+    emit bakingChanged(true);
+}
+
+void ScenePage::stopBaking()
+{
+    m_bake.stop();
+}
+
+bool ScenePage::isPlaying() const
+{
+    return m_playTimer.isActive();
+}
+
+void ScenePage::setPlaying(bool playing)
+{
+    const bool plays = playing && m_bake.computedFrames() > 0;
+    if (plays)
+        m_playTimer.start(1000 / m_bake.framesPerSecond());
+    else
+        m_playTimer.stop();
+    m_playButton->setFilename(plays ? u":/Workstation/Pause"_s : u":/Workstation/Play"_s);
+    m_playButton->setAccessibleName(plays ? tr("Pause") : tr("Play"));
+}
+
+void ScenePage::goToFrame(int frame)
+{
+    m_timebar->setPlayWidgetFrame(frame);
+    showFrame(m_timebar->getCurrentPlayValue());
+}
+
+void ScenePage::hideEvent(QHideEvent *event)
+{
+    setPlaying(false);
+    QWidget::hideEvent(event);
+}
+
+QWidget *ScenePage::createPlayer()
+{
+    auto *player = new QWidget(this);
+    player->setObjectName(u"player"_s);
+    player->setAttribute(Qt::WA_StyledBackground);
+    m_playButton = new OvixSvgButton(player);
+    m_playButton->setFixedSize(playSize);
+    m_playButton->setHoverVisible(true);
+    m_playButton->setFocusPolicy(Qt::TabFocus);
+    connect(m_playButton, &OvixSvgButton::clicked, this, [this] { setPlaying(!isPlaying()); });
+
+    auto *modes = new oVIXToggle(player);
+    const auto addMode = [this, modes](ViewOptions::Mode mode, const QString &icon, const QString &name) {
+        modes->addState(u":/Workstation/%1"_s.arg(icon), u":/Workstation/%1Checked"_s.arg(icon), name, QString());
+        connect(modes, &oVIXToggle::changed, this, [this, mode, name](const QString &chosen) {
+            if (chosen != name)
+                return;
+            ViewOptions options = m_view->options();
+            options.mode = mode;
+            m_view->setOptions(options);
+        });
+    };
+    addMode(ViewOptions::Mode::Dots, u"Dots"_s, tr("Where people are"));
+    addMode(ViewOptions::Mode::Trails, u"Trails"_s, tr("Where they come from"));
+    addMode(ViewOptions::Mode::Density, u"Density"_s, tr("How dense they stand"));
+    modes->setAccessibleName(tr("View"));
+    modes->setFixedHeight(oVIXToggle::StateWidth);
+
+    m_timebar = new oVIXTimebarWidget(player);
+    m_timebar->setAccessibleName(tr("Timeline"));
+
+    auto *layout = new QHBoxLayout(player);
+    layout->setContentsMargins(12, 4, 12, 4);
+    layout->setSpacing(12);
+    layout->addWidget(modes);
+    layout->addWidget(m_playButton);
+    layout->addWidget(m_timebar, 1);
+    setPlaying(false);
+    return player;
+}
+
+void ScenePage::showBaked()
+{
+    const int computed = m_bake.computedFrames();
+    m_timebar->updateCachedValue(computed - 1);
+    m_timebar->setPlayWidgetFrame(m_timebar->getCurrentPlayValue());
+    m_progress->setPercent(m_bake.frameCount() > 0 ? int(qint64(computed) * 100 / m_bake.frameCount()) : 100);
+    m_playButton->setEnabled(computed > 0);
+}
+
+void ScenePage::showFrame(int frame)
+{
+    QList<QList<QPointF>> trail;
+    if (m_view->options().mode == ViewOptions::Mode::Trails) {
+        for (int before = frame - trailStep; before >= std::max(0, frame - trailFrames); before -= trailStep)
+            trail << m_bake.positions(before);
+    }
+    m_view->setPositions(m_bake.positions(frame), trail);
+}
+
+void ScenePage::playNext()
+{
+    const int next = m_timebar->getCurrentPlayValue() + 1;
+    const bool ended = next > m_timebar->getCropEndValue() || next >= m_bake.computedFrames();
+    goToFrame(ended ? m_timebar->getCropStartValue() : next);
+}
+
+void ScenePage::takeOverPickedFrame()
+{
+    m_timebar->unblock();
+    m_timebar->setPlayWidgetFrame(m_timebar->getSelectedValue());
+    m_timebar->constrainPlayTimeToCropValues();
+    showFrame(m_timebar->getCurrentPlayValue());
+}
+
+void ScenePage::finishBaking()
+{
+    m_bakeTimer.stop();
+    showBaked();
+    m_progress->hide();
+    const bool whole = m_bake.computedFrames() == m_bake.frameCount();
+    m_facts->showNote(whole ? tr("%1 frames are baked").arg(m_bake.frameCount())
+                            : tr("Baking was stopped after %1 frames").arg(m_bake.computedFrames()));
+    emit bakingChanged(false);
 }

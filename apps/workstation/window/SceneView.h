@@ -1,10 +1,11 @@
 #pragma once
 
 #include "scenes/Scene.h"
+#include "window/ViewOptions.h"
 
 #include <QWidget>
 
-/// A scene seen from above, as large as fits: ground, walls, people and vehicles in the colours of their tags.
+/// A scene seen from above: ground, walls, people and vehicles. The wheel zooms at the pointer, a drag moves the scene.
 class SceneView : public QWidget
 {
     Q_OBJECT
@@ -12,15 +13,44 @@ class SceneView : public QWidget
 public:
     explicit SceneView(QWidget *parent = nullptr);
 
+    /// Shows the whole of it.
     void setScene(const Scene &scene);
     const Scene &scene() const;
 
+    /// Shows these people in place of the scene's own.
+    void setPeople(const QList<SceneMover> &people);
+    /// Where they are now, and where they were before, the latest first.
+    void setPositions(const QList<QPointF> &positions, const QList<QList<QPointF>> &trail = {});
+
+    void setOptions(const ViewOptions &options);
+    const ViewOptions &options() const;
+
+signals:
+    /// The user has zoomed.
+    void zoomChanged(double zoom);
+
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
 
 private:
     /// From metres to logical pixels.
     QTransform sceneToView() const;
+    void decideColours();
+    void drawVehicles(QPainter &painter, const QTransform &transform) const;
+    void drawPeople(QPainter &painter, const QTransform &transform) const;
+    void drawTrails(QPainter &painter, const QTransform &transform) const;
+    void drawDensity(QPainter &painter, const QTransform &transform) const;
+    /// Takes the mover's colour, dimmed unless its type is highlighted.
+    void chooseColour(QPainter &painter, const SceneMover &mover, const QColor &colour) const;
 
     Scene m_scene;
+    ViewOptions m_options;
+    QList<QColor> m_peopleColours;
+    QList<QList<QPointF>> m_trail;
+    QList<QPointF> m_goals;
+    QPointF m_centre; // of the view, in metres
+    QPointF m_dragged;
 };

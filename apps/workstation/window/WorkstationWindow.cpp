@@ -1,8 +1,12 @@
 #include "window/WorkstationWindow.h"
 
+#include "panels/CrowdEditor.h"
+#include "panels/LibraryPanel.h"
+#include "panels/ParametersPanel.h"
 #include "start/StartScreen.h"
 #include "window/SceneFactsDialog.h"
 #include "window/ScenePage.h"
+#include "window/SceneView.h"
 
 #include <oVIXMinMaxCloseWidget.h>
 #include <oVIXTitleBar.h>
@@ -11,6 +15,7 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QMenuBar>
+#include <QSettings>
 #include <QStackedWidget>
 
 #include <chrono>
@@ -23,6 +28,8 @@ namespace {
 constexpr QSize startSize(1180, 760);
 constexpr QSize logoSize(22, 32);
 constexpr auto reportInterval = 50ms;
+constexpr auto geometryKey = "window/geometry";
+constexpr auto panelsKey = "window/panels";
 
 } // namespace
 
@@ -32,18 +39,21 @@ static void useResources()
     Q_INIT_RESOURCE(Workstation);
 }
 
-WorkstationWindow::WorkstationWindow(const QString &projectsFolder)
+WorkstationWindow::WorkstationWindow(const QString &projectsFolder, QSettings *settings)
     : m_pages(new QStackedWidget(this)), m_startScreen(new StartScreen(projectsFolder, m_pages)),
-      m_scenePage(new ScenePage(m_pages)), m_loading(getWindowWait(), getWindowWait())
+      m_scenePage(new ScenePage(m_pages)), m_settings(settings), m_loading(getWindowWait(), getWindowWait())
 {
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     setWindowTitle(QGuiApplication::applicationDisplayName());
     m_pages->addWidget(m_startScreen);
     m_pages->addWidget(m_scenePage);
     setCentralWidget(m_pages);
+    showPage(m_startScreen);
+    createPanels();
     createMenus();
     createTitleBar();
     resize(startSize);
+    restoreLayout();
 
     connect(m_startScreen, &StartScreen::openRequested, this, &WorkstationWindow::openScene);
     connect(m_startScreen, &StartScreen::selectionChanged, this, &WorkstationWindow::updateActions);
@@ -64,6 +74,16 @@ StartScreen *WorkstationWindow::startScreen() const
 ScenePage *WorkstationWindow::scenePage() const
 {
     return m_scenePage;
+}
+
+LibraryPanel *WorkstationWindow::libraryPanel() const
+{
+    return m_library;
+}
+
+ParametersPanel *WorkstationWindow::parametersPanel() const
+{
+    return m_parameters;
 }
 
 bool WorkstationWindow::showsScene() const
@@ -93,7 +113,10 @@ void WorkstationWindow::openScene(const QString &path)
 
 void WorkstationWindow::closeScene()
 {
-    m_pages->setCurrentWidget(m_startScreen);
+    if (showsScene())
+        hidePanels();
+    m_scenePage->stopBaking();
+    showPage(m_startScreen);
     setWindowTitle(QGuiApplication::applicationDisplayName());
     updateActions();
 }
@@ -117,6 +140,7 @@ void WorkstationWindow::changeEvent(QEvent *event)
 void WorkstationWindow::closeEvent(QCloseEvent *event)
 {
     m_loading.cancel();
+    saveLayout();
     oVIXMainWindow::closeEvent(event);
 }
 
@@ -143,6 +167,9 @@ void WorkstationWindow::createMenus()
     QMenu *window = menuBar()->addMenu(tr("Window"));
     window->addAction(tr("Minimize"), this, &QWidget::showMinimized);
     m_maximizeAction = window->addAction(QString(), this, &WorkstationWindow::toggleMaximized);
+    window->addSeparator();
+    for (QDockWidget *panel : panels())
+        window->addAction(panel->toggleViewAction());
 }
 
 void WorkstationWindow::createTitleBar()
@@ -155,6 +182,80 @@ void WorkstationWindow::createTitleBar()
     connect(m_titleBar, &oVIXTitleBar::closed, this, &QWidget::close);
 }
 
+void WorkstationWindow::createPanels()
+{
+    m_library = new LibraryPanel(this);
+    m_parameters = new ParametersPanel(this);
+    addDockWidget(Qt::LeftDockWidgetArea, m_library);
+    addDockWidget(Qt::RightDockWidgetArea, m_parameters);
+    m_panelState = saveState();
+    for (QDockWidget *panel : panels())
+        panel->hide();
+
+    SceneView *view = m_scenePage->view();
+    connect(m_library, &LibraryPanel::typeSelected, this, [view](const QString &type) {
+        ViewOptions options = view->options();
+        options.highlightedType = type;
+        view->setOptions(options);
+    });
+    connect(m_parameters, &ParametersPanel::optionsChanged, this, [view](ViewOptions options) {
+        options.highlightedType = view->options().highlightedType;
+        options.mode = view->options().mode;
+        view->setOptions(options);
+    });
+    connect(view, &SceneView::zoomChanged, m_parameters, &ParametersPanel::setZoom);
+
+    CrowdEditor *crowd = m_parameters->crowd();
+    connect(crowd, &CrowdEditor::edited, this, [this, crowd] { m_scenePage->setCrowd(crowd->settings()); });
+    connect(crowd, &CrowdEditor::bakeClicked, m_scenePage, &ScenePage::toggleBaking);
+    connect(m_scenePage, &ScenePage::bakingChanged, crowd, &CrowdEditor::showBaking);
+}
+
+void WorkstationWindow::showPage(QWidget *page)
+{
+    // The smallest size of the other page does not count.
+    for (QWidget *each : std::initializer_list<QWidget *>{m_startScreen, m_scenePage}) {
+        const auto policy = each == page ? QSizePolicy::Preferred : QSizePolicy::Ignored;
+        each->setSizePolicy(policy, policy);
+    }
+    m_pages->setCurrentWidget(page);
+}
+
+QList<QDockWidget *> WorkstationWindow::panels() const
+{
+    return {m_library, m_parameters};
+}
+
+void WorkstationWindow::hidePanels()
+{
+    m_panelState = saveState();
+    for (QDockWidget *panel : panels())
+        panel->hide();
+}
+
+void WorkstationWindow::restorePanels()
+{
+    restoreState(m_panelState);
+}
+
+void WorkstationWindow::saveLayout()
+{
+    if (!m_settings)
+        return;
+    m_settings->setValue(geometryKey, saveGeometry());
+    m_settings->setValue(panelsKey, showsScene() ? saveState() : m_panelState);
+}
+
+void WorkstationWindow::restoreLayout()
+{
+    if (!m_settings)
+        return;
+    restoreGeometry(m_settings->value(geometryKey).toByteArray());
+    const QByteArray state = m_settings->value(panelsKey).toByteArray();
+    if (!state.isEmpty())
+        m_panelState = state;
+}
+
 void WorkstationWindow::toggleMaximized()
 {
     if (isMaximized())
@@ -165,8 +266,11 @@ void WorkstationWindow::toggleMaximized()
 
 void WorkstationWindow::showScene(const Scene &scene)
 {
+    m_library->setScene(scene);
+    m_parameters->crowd()->setScene(scene);
     m_scenePage->setScene(scene);
-    m_pages->setCurrentWidget(m_scenePage);
+    showPage(m_scenePage);
+    restorePanels();
     setWindowTitle(tr("%1 - %2").arg(scene.name, QGuiApplication::applicationDisplayName()));
     endLoading();
 }
@@ -191,5 +295,7 @@ void WorkstationWindow::updateActions()
     m_openAction->setEnabled(ready && !showsScene() && m_startScreen->canOpen());
     m_closeSceneAction->setEnabled(ready && showsScene());
     m_factsAction->setEnabled(ready && showsScene());
+    for (QDockWidget *panel : panels())
+        panel->toggleViewAction()->setEnabled(showsScene());
     m_maximizeAction->setText(isMaximized() ? tr("Restore") : tr("Maximize"));
 }

@@ -6,25 +6,32 @@
 
 #include <QTimer>
 
+class LibraryPanel;
+class ParametersPanel;
 class QAction;
+class QDockWidget;
+class QSettings;
 class QStackedWidget;
 class ScenePage;
 class StartScreen;
 class oVIXTitleBar;
 
 /// The application's window: frameless, with the menu bar as its title bar, the start screen, and the page of the open
-/// scene.
+/// scene with its tool panels.
 class WorkstationWindow : public oVIXMainWindow
 {
     Q_OBJECT
 
 public:
-    /// @p projectsFolder may be missing: the start screen says so.
-    explicit WorkstationWindow(const QString &projectsFolder);
+    /// @p projectsFolder may be missing: the start screen says so. @p settings keep the place of the window and of its
+    /// panels; null forgets them. They have to live longer.
+    explicit WorkstationWindow(const QString &projectsFolder, QSettings *settings = nullptr);
     ~WorkstationWindow() override;
 
     StartScreen *startScreen() const;
     ScenePage *scenePage() const;
+    LibraryPanel *libraryPanel() const;
+    ParametersPanel *parametersPanel() const;
     bool showsScene() const;
     bool isLoading() const;
 
@@ -47,6 +54,14 @@ protected:
 private:
     void createMenus();
     void createTitleBar();
+    void createPanels();
+    void showPage(QWidget *page);
+    QList<QDockWidget *> panels() const;
+    /// Panels belong to the open scene: on the start screen there are none.
+    void hidePanels();
+    void restorePanels();
+    void saveLayout();
+    void restoreLayout();
     void toggleMaximized();
     void showScene(const Scene &scene);
     void reportProblem(const QString &problem);
@@ -61,6 +76,11 @@ private:
     QAction *m_closeSceneAction = nullptr;
     QAction *m_factsAction = nullptr;
     QAction *m_maximizeAction = nullptr;
+    LibraryPanel *m_library = nullptr;
+    ParametersPanel *m_parameters = nullptr;
+    QSettings *m_settings;
+    /// Where the panels are while a scene is open.
+    QByteArray m_panelState;
     /// Lets the wait overlay show what the loading thread says.
     QTimer m_reportTimer;
     SceneLoading m_loading; // the last member: its thread reports to the overlay until it is gone

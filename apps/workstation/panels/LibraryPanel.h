@@ -1,0 +1,36 @@
+#pragma once
+
+#include "panels/LibraryEntry.h"
+
+#include <oVIXDock.h>
+
+class QListView;
+class QSortFilterProxyModel;
+class QStandardItemModel;
+class QStringListModel;
+
+/// The kinds of people and vehicles of the open scene, with pictures. The header's search filters them.
+class LibraryPanel : public oVIXDock
+{
+    Q_OBJECT
+
+public:
+    explicit LibraryPanel(QMainWindow *window);
+
+    void setScene(const Scene &scene);
+    /// Edge of the pictures: 0 for names only. Any other number is one of the header's sizes.
+    void showThumbnails(int size);
+
+signals:
+    /// Another kind has been selected; empty for none.
+    void typeSelected(const QString &type);
+
+private:
+    void fill();
+
+    QList<LibraryEntry> m_entries;
+    QStandardItemModel *m_model;
+    QSortFilterProxyModel *m_found;
+    QStringListModel *m_names;
+    QListView *m_list;
+};
