@@ -6,6 +6,7 @@
 #include "gallery/IconStatesPage.h"
 #include "gallery/IconsPage.h"
 #include "gallery/LabelsPage.h"
+#include "gallery/MessagesPage.h"
 #include "gallery/OverlaysPage.h"
 #include "gallery/PieChartPage.h"
 #include "gallery/ProgressBarsPage.h"
@@ -26,6 +27,7 @@ QList<GalleryPages::Page> GalleryPages::all()
         {u"title-bars"_s, TitleBarsPage::tr("Title bars"), [] { return new TitleBarsPage; }},
         {u"overlays"_s, OverlaysPage::tr("Overlays"), [] { return new OverlaysPage; }},
         {u"dialogs"_s, DialogsPage::tr("Dialogs"), [] { return new DialogsPage; }},
+        {u"messages"_s, MessagesPage::tr("Messages"), [] { return new MessagesPage; }},
         {u"choosers"_s, ChoosersPage::tr("Choosers"), [] { return new ChoosersPage; }},
         {u"docking"_s, DockingPage::tr("Docking"), [] { return new DockingPage; }},
         {u"sliders"_s, SlidersPage::tr("Sliders"), [] { return new SlidersPage; }},

@@ -1,0 +1,323 @@
+#include "support/Events.h"
+#include "support/Gestures.h"
+#include "support/Picture.h"
+#include "support/TestCase.h"
+
+#include "choosers/oVIXButton.h"
+#include "foundation/OvixSvgButton.h"
+#include "foundation/QClickableLabel.h"
+#include "foundation/VelmoStyle.h"
+#include "frame/oVIXDialogTitle.h"
+#include "messages/MessageRules.h"
+#include "messages/VelmoYesNoWidget.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextBrowser>
+#include <QTimer>
+#include <QUrl>
+
+#if __has_include(<malloc.h>)
+#include <malloc.h>
+#endif
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Box = VelmoMessageWidget;
+using Code = VelmoMsgReturnCode;
+
+template <class Widget> Widget *part(Box *box, const char *name)
+{
+    return box->findChild<Widget *>(QLatin1String(name));
+}
+
+/// Does something to the box that is run next, which has to end it.
+void onceShown(const std::function<void(Box *)> &act)
+{
+    QTimer::singleShot(0, qApp, [act] {
+        auto *box = qobject_cast<Box *>(QApplication::activeModalWidget());
+        QVERIFY(box);
+        QVERIFY(QTest::qWaitForWindowActive(box));
+        act(box);
+    });
+}
+
+/// The texts of a box, then accepts it.
+std::function<void(Box *)> reading(QStringList *texts)
+{
+    return [texts](Box *box) {
+        QString title;
+        for (const QLabel *label : box->findChild<oVIXDialogTitle *>()->findChildren<QLabel *>())
+            title += label->text();
+        *texts << title.remove(QRegularExpression(u"<[^>]*>"_s)).replace(u"&nbsp;"_s, u" "_s).simplified();
+        auto *line = part<QLineEdit>(box, "lnEdit");
+        *texts << (line->isVisible() ? u"edit "_s + line->text()
+                                     : part<QTextBrowser>(box, "textBrowser")->toPlainText());
+        auto *other = part<oVIXButton>(box, "lbDont");
+        *texts << (other->isVisible() ? other->text() : QString());
+        auto *bar = part<VelmoYesNoWidget>(box, "widgetYesNoButtons");
+        *texts << bar->getMsgText() << bar->getOkText();
+        *texts << QString::number(box->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+        box->fnAccept();
+    };
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(std::function<void(Box *)>)
+
+class MessageBoxTest : public TestCase
+{
+    Q_OBJECT
+
+private slots:
+    void hasRules()
+    {
+        QCOMPARE(boxHeight(200, 82, 482, 20.9), 200);
+        QCOMPARE(boxHeight(200, 82, 482, 100.9), 218);
+        QCOMPARE(boxHeight(200, 82, 482, 1000), 600);
+        QCOMPARE(countdownText(u"Replace"_s, 3), u"Replace (3)"_s);
+        QCOMPARE(countdownText(QString(), 1), u" (1)"_s);
+        QCOMPARE(countdownText(u"Replace"_s, 0), u"Replace"_s);
+        QCOMPARE(returnCodeOf(0), MsgRejected);
+        QCOMPARE(returnCodeOf(7), MsgRejected);
+        QCOMPARE(returnCodeOf(3), MsgOther);
+    }
+
+    void isAsHighAsItsText()
+    {
+        Box box(u"WARNING"_s, u"Title"_s, false, nullptr, nullptr);
+        box.setText(u"Short"_s);
+        QCOMPARE(box.size(), QSize(500, 200));
+        box.setText(u"words "_s.repeated(150));
+        auto *browser = part<QTextBrowser>(&box, "textBrowser");
+        const int needed = box.height();
+        QVERIFY(needed > 210 && needed < 500);
+        box.setText(u"line\n"_s.repeated(200));
+        QCOMPARE(box.size(), QSize(500, 600));
+        Gestures::show(&box);
+        QCOMPARE(box.size(), QSize(500, 630));
+        QVERIFY(browser->geometry().top() >= 50);
+        browser->setText(u"words "_s.repeated(150));
+        QVERIFY(Events::untilIdle());
+        QCOMPARE(200 + int(browser->document()->size().height()) - 82, needed);
+
+        onceShown([](Box *shown) {
+            QCOMPARE(shown->height(), 330);
+            shown->fnOther();
+        });
+        QCOMPARE(VelmoWarningMessage(u"t"_s, u"text"_s, 300, nullptr, nullptr), MsgOther);
+    }
+
+    void setsItsButtons()
+    {
+        Box box(u"QUESTION"_s, u"Title"_s, false, nullptr, nullptr);
+        Gestures::show(&box);
+        auto *bar = part<VelmoYesNoWidget>(&box, "widgetYesNoButtons");
+        auto *other = part<oVIXButton>(&box, "lbDont");
+        box.setButtonMode(VelmoButtonMode(9));
+        QVERIFY(other->isVisible() && !bar->getEnableOkButton());
+        for (const auto &[mode, text] : {std::pair(QuestionButtons, u"YES"_s),
+                                         {InformationButtons, u"OK"_s},
+                                         {EditButtons, u"OK"_s},
+                                         {ThreeOptionButtons, u"OK"_s}}) {
+            box.setButtonMode(mode);
+            QCOMPARE(bar->getOkText(), text);
+            QCOMPARE(other->isVisible(), mode == ThreeOptionButtons);
+            QVERIFY(bar->getEnableOkButton());
+            QVERIFY(part<QClickableLabel>(&box, "okButton")->styleSheet().contains(u"background:rgb(22,129,189)"_s));
+        }
+        box.setOtherOption(u"No"_s);
+        QCOMPARE(other->width(), 84);
+        const QString text = u"Keep both of them for now"_s;
+        box.setOtherOption(text);
+        QVERIFY(Events::untilIdle());
+        QCOMPARE(other->width(), VelmoStyle::styleDockTextWidth(text) + 30);
+    }
+
+    void returnsTheAnswer_data()
+    {
+        QTest::addColumn<std::function<void(Box *)>>("act");
+        QTest::addColumn<Code>("code");
+        const auto row = [](const char *name, Code code, const std::function<void(Box *)> &act) {
+            QTest::newRow(name) << act << code;
+        };
+        const auto key = [](Qt::Key pressed) { return [pressed](Box *box) { QTest::keyClick(box, pressed); }; };
+        const auto click = [](const char *name) {
+            return [name](Box *box) { Gestures::click(part<QWidget>(box, name)); };
+        };
+        row("Return", MsgAccepted, key(Qt::Key_Return));
+        row("Enter", MsgAccepted, key(Qt::Key_Enter));
+        row("Escape", MsgRejected, key(Qt::Key_Escape));
+        row("OK", MsgAccepted, click("okButton"));
+        row("cancel", MsgRejected, click("cancelButton"));
+        row("other", MsgOther, click("lbDont"));
+        row("close button", MsgRejected,
+            [](Box *box) { Gestures::click(box->findChild<oVIXDialogTitle *>()->findChild<OvixSvgButton *>()); });
+        row("closed", MsgRejected, [](Box *box) { box->close(); });
+        row("hidden", MsgRejected, [](Box *box) { box->hide(); });
+        row("parent gone", MsgRejected, [](Box *box) { delete box->parentWidget(); });
+    }
+    void returnsTheAnswer()
+    {
+        QFETCH(std::function<void(Box *)>, act);
+        const QPointer<QWidget> parent(new QWidget);
+        onceShown(act);
+        const Code code = VelmoThreeOptionMessage(u"KIND"_s, u"t"_s, u"text"_s, u"Other"_s, parent, nullptr);
+        QTEST(code, "code");
+        QVERIFY(!parent || parent->children().isEmpty());
+        delete parent;
+    }
+
+    void saysWhatItIsGiven()
+    {
+        QStringList texts;
+        const auto read = [&texts](const std::function<Code()> &run) {
+            texts.clear();
+            onceShown(reading(&texts));
+            return run() == MsgAccepted ? texts.join(u'|') : QString();
+        };
+        const QString a = u"A"_s;
+        const QString b = u"B"_s;
+        QString edited = u"old"_s;
+        QCOMPARE(read([&] { return VelmoInfoMessage(a, b, nullptr, nullptr); }), u"INFORMATION: A|B|||OK|0"_s);
+        QCOMPARE(read([&] { return VelmoWarningMessage(a, b, 0, nullptr, nullptr); }), u"WARNING: A|B|||OK|0"_s);
+        QCOMPARE(read([&] { return VelmoQuestionMessage(a, b, nullptr, nullptr); }), u"QUESTION: A|B|||YES|0"_s);
+        QCOMPARE(read([&] { return VelmoEditMessage(a, b, &edited, nullptr, nullptr); }), u"A: B|edit old|||OK|0"_s);
+        QCOMPARE(read([&] { return VelmoThreeOptionMessage(u"K"_s, a, b, u"No"_s, nullptr, nullptr); }),
+                 u"K: A|B|No||OK|0"_s);
+        QCOMPARE(read([&] { return VelmoCustomMessage(u"K"_s, a, b, u"Go"_s, u"Sure?"_s, true, nullptr, nullptr); }),
+                 u"K: A|B||Sure?|Go|1"_s);
+        QCOMPARE(read([&] {
+                     return VelmoCustomThreeOptionMessage(u"K"_s, a, b, u"Go"_s, u"No"_s, true, -3, nullptr, nullptr);
+                 }),
+                 u"K: A|B|No||Go|1"_s);
+    }
+
+    void writesWhatIsTypedWhileItRuns()
+    {
+        QWidget parent;
+        QString edited = u"Crowd"_s;
+        VelmoMessageClass message(u"Rename"_s, u"Scene title"_s, u"Scene title"_s, false, 0, &parent, nullptr);
+        message.setButtonMode(EditButtons);
+        message.showEditable(true, &edited);
+        onceShown([](Box *box) {
+            QVERIFY(part<QLineEdit>(box, "lnEdit")->hasFocus());
+            QTest::keyClicks(part<QLineEdit>(box, "lnEdit"), u"Crowd 2"_s);
+            QTest::keyClick(part<QLineEdit>(box, "lnEdit"), Qt::Key_Escape);
+        });
+        QCOMPARE(message.exec(), MsgRejected);
+        QCOMPARE(edited, u"Crowd 2"_s);
+        auto *box = parent.findChild<Box *>();
+        QVERIFY(box && !box->isVisible());
+        box->setEditText(u"later"_s);
+        QCOMPARE(edited, u"Crowd 2"_s);
+        QString other = u"other"_s;
+        box->showEditable(true, &edited);
+        box->showEditable(true, &other);
+        QCOMPARE(edited, u"Crowd 2"_s);
+        box->showEditable(true, nullptr);
+        box->setEditText(u"nowhere"_s);
+        QCOMPARE(other, u"other"_s);
+
+        VelmoMessageClass copy(message);
+        delete box;
+        copy.setButtonText(u"Go"_s);
+        QCOMPARE(copy.exec(), MsgRejected);
+    }
+
+    void holdsItsButtonsBack()
+    {
+        QStringList shown;
+        onceShown([&shown](Box *box) {
+            auto *bar = part<VelmoYesNoWidget>(box, "widgetYesNoButtons");
+            auto *close = box->findChild<oVIXDialogTitle *>()->findChild<OvixSvgButton *>();
+            const auto isLocked = [box, bar, close] {
+                return !bar->isEnabled() && !part<oVIXButton>(box, "lbDont")->isEnabled() && !close->isEnabled();
+            };
+            shown << bar->getOkText();
+            QVERIFY(isLocked());
+            for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape})
+                QTest::keyClick(box, key);
+            box->close();
+            QVERIFY(box->isVisible());
+            while (isLocked() && shown.size() < 9) {
+                const QString before = bar->getOkText();
+                QTRY_VERIFY(bar->getOkText() != before);
+                shown << bar->getOkText();
+            }
+            QVERIFY(bar->isEnabled() && part<oVIXButton>(box, "lbDont")->isEnabled() && close->isEnabled());
+            QTest::keyClick(box, Qt::Key_Return);
+        });
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(
+            VelmoCustomThreeOptionMessage(u"K"_s, u"t"_s, u"b"_s, u"Replace"_s, u"Keep"_s, false, 2, nullptr, nullptr),
+            MsgAccepted);
+        QVERIFY(timer.elapsed() >= 1900);
+        QCOMPARE(shown.join(u','), u"Replace (2),Replace (1),Replace"_s);
+    }
+
+    void readsNothingThatItsBodyNames()
+    {
+        QTemporaryDir folder;
+        QImage picture(100, 100, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        const QString file = folder.filePath(u"a.png"_s);
+        QVERIFY(picture.save(file));
+        Box box(u"KIND"_s, u"t"_s, false, nullptr, nullptr);
+        box.setText(u"<img src=\"%1\"><img src=\"%2\"><br><a href=\"%2\">link</a>"_s.arg(
+            file, QUrl::fromLocalFile(file).toString()));
+        Gestures::show(&box);
+        auto *browser = part<QTextBrowser>(&box, "textBrowser");
+        const QImage image = Picture::of(browser);
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x)
+                QVERIFY(image.pixelColor(x, y) != QColor(Qt::red));
+        }
+        const QString body = browser->toHtml();
+        QTest::keyClick(browser, Qt::Key_Tab);
+        QTest::keyClick(browser, Qt::Key_Return);
+        QCOMPARE(browser->toHtml(), body);
+        QVERIFY(browser->source().isEmpty());
+    }
+
+    void isAnnounced()
+    {
+        Box box(u"WARNING"_s, u"<Title>"_s, false, nullptr, nullptr);
+        box.setText(u"<b>Body</b>"_s);
+        QAccessibleInterface *dialog = QAccessible::queryAccessibleInterface(&box);
+        QCOMPARE(dialog->role(), QAccessible::Dialog);
+        QCOMPARE(dialog->text(QAccessible::Name), u"WARNING: <Title>"_s);
+        QCOMPARE(dialog->text(QAccessible::Description), u"Body"_s);
+    }
+
+#ifdef __GLIBC__
+    void leavesNoMemoryBehind()
+    {
+        QWidget parent;
+        const auto run = [&parent](int boxes) {
+            for (int i = 0; i < boxes; ++i) {
+                QTimer::singleShot(0, qApp, [] { qobject_cast<Box *>(QApplication::activeModalWidget())->fnAccept(); });
+                VelmoQuestionMessage(u"t"_s, u"body"_s, &parent, nullptr);
+            }
+            return qint64(mallinfo2().uordblks);
+        };
+        const qint64 before = run(50);
+        const qint64 growth = run(1000) - before;
+        QVERIFY2(growth < 64 * 1024, qPrintable(QString::number(growth)));
+    }
+#endif
+};
+
+VELMO_TEST_MAIN(MessageBoxTest)
+#include "MessageBoxTest.moc"
