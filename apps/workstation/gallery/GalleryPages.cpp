@@ -12,6 +12,7 @@
 #include "gallery/ProgressBarsPage.h"
 #include "gallery/SceneListPage.h"
 #include "gallery/SlidersPage.h"
+#include "gallery/TagsPage.h"
 #include "gallery/TimebarPage.h"
 #include "gallery/TitleBarsPage.h"
 #include "gallery/TogglesPage.h"
@@ -35,6 +36,7 @@ QList<GalleryPages::Page> GalleryPages::all()
         {u"progress-bars"_s, ProgressBarsPage::tr("Progress bars"), [] { return new ProgressBarsPage; }},
         {u"pie-chart"_s, PieChartPage::tr("Pie chart"), [] { return new PieChartPage; }},
         {u"toggles"_s, TogglesPage::tr("Toggles"), [] { return new TogglesPage; }},
+        {u"tags"_s, TagsPage::tr("Tags"), [] { return new TagsPage; }},
         {u"scene-list"_s, SceneListPage::tr("Scene list"), [] { return new SceneListPage; }},
     };
 }

@@ -1,0 +1,276 @@
+#include "tags/oVIXDragDropListWidget.h"
+
+#include "foundation/DeferredRows.h"
+#include "tags/SortedPlace.h"
+#include "tags/TagSheets.h"
+#include "tags/VelmoDrag.h"
+
+#include <QDropEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPixmap>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int rowHeight = 20;
+/// What a window system takes as a picture; the names of tags know no limit.
+constexpr QSize largestDragPicture(4096, 4096);
+
+QPixmap dragPictureOf(QWidget *tag)
+{
+    const QSize size = tag->size().boundedTo(largestDragPicture);
+    QPixmap picture(size * tag->devicePixelRatio());
+    picture.setDevicePixelRatio(tag->devicePixelRatio());
+    picture.fill(Qt::transparent);
+    tag->render(&picture, QPoint(), QRegion(QRect(QPoint(), size)), QWidget::DrawChildren);
+    return picture;
+}
+
+} // namespace
+
+oVIXDragDropListWidget::oVIXDragDropListWidget(QWidget *parent)
+    : QListWidget(parent), m_deferred(new DeferredRows(this))
+{
+    setSelectionMode(NoSelection);
+    setAcceptDrops(true);
+    verticalScrollBar()->setStyleSheet(TagSheets::dropListScrollBar());
+
+    const auto forgetOrder = [this] { m_knownSorted = false; };
+    connect(model(), &QAbstractItemModel::rowsMoved, this, forgetOrder);
+    connect(model(), &QAbstractItemModel::layoutChanged, this, forgetOrder);
+    connect(model(), &QAbstractItemModel::modelAboutToBeReset, this, [this] {
+        m_addItem = nullptr;
+        m_knownSorted = false;
+    });
+}
+
+oVIXDragDropListWidget::~oVIXDragDropListWidget()
+{
+    // The model ends after this class, and tells that its rows go.
+    disconnect(model(), nullptr, this, nullptr);
+}
+
+QListWidgetItem *oVIXDragDropListWidget::addCustomItem(const QString &text, DRAG_BUTTON button, bool sorted)
+{
+    auto *item = new QListWidgetItem(text);
+    item->setSizeHint(QSize(0, rowHeight));
+    if (button == BUTTON_ADD) {
+        item->setFlags(item->flags() & ~Qt::ItemIsSelectable);
+        m_addItem = item;
+    }
+    const QScopedValueRollback addsItself(m_addsItself, true);
+    insert(item, sorted);
+
+    auto *tag = new oVIXDragTag(text, m_tagColor, m_tagTextColor, button, m_showAllButtons, viewport());
+    DeferredRows::park(tag);
+    setItemWidget(item, tag);
+    connect(tag, &oVIXDragTag::tagClicked, this, &oVIXDragDropListWidget::fnWantsAction);
+    connect(tag, &oVIXDragTag::doubleClick, this, &oVIXDragDropListWidget::fnWantsMove);
+    connect(tag, &oVIXDragTag::tagAdd, this, &oVIXDragDropListWidget::fnAdd);
+    connect(tag, &oVIXDragTag::startDrag, this, &oVIXDragDropListWidget::dragTriggered);
+    return item;
+}
+
+void oVIXDragDropListWidget::setEnabledItems(const QList<QString> &names)
+{
+    const QSet<QString> enabled(names.cbegin(), names.cend());
+    for (int row = 0; row < count(); ++row) {
+        oVIXDragTag *tag = tagAt(row);
+        if (tag && !tag->isAdd())
+            tag->setEnabled(enabled.contains(tag->text()));
+    }
+}
+
+void oVIXDragDropListWidget::enableAddButton(bool enable)
+{
+    if (m_addItem)
+        m_addItem->setHidden(!enable);
+}
+
+void oVIXDragDropListWidget::setTagTextColor(QColor background, QColor text, int row)
+{
+    if (row >= 0) {
+        if (oVIXDragTag *tag = tagAt(row))
+            tag->setColors(background, text);
+        return;
+    }
+    m_tagColor = background;
+    m_tagTextColor = text;
+    for (int i = 0; i < count(); ++i) {
+        if (oVIXDragTag *tag = tagAt(i))
+            tag->setColors(background, text);
+    }
+}
+
+void oVIXDragDropListWidget::setShowAllButtons(bool show)
+{
+    m_showAllButtons = show;
+}
+
+bool oVIXDragDropListWidget::getShowAllButtons() const
+{
+    return m_showAllButtons;
+}
+
+void oVIXDragDropListWidget::setDropType(VelmoDropData::Type type)
+{
+    m_dropType = type;
+}
+
+VelmoDropData::Type oVIXDragDropListWidget::getDropType() const
+{
+    return m_dropType;
+}
+
+void oVIXDragDropListWidget::doItemsLayout()
+{
+    QListWidget::doItemsLayout();
+    m_deferred->release();
+}
+
+void oVIXDragDropListWidget::dragTriggered(QMouseEvent *event)
+{
+    auto *tag = qobject_cast<oVIXDragTag *>(sender());
+    if (!tag || !event)
+        return;
+    const VelmoDropData payload({{tag->text(), {}}}, m_dropType);
+    auto *drag = new VelmoDrag(this);
+    drag->setPixmap(dragPictureOf(tag));
+    drag->setHotSpot(event->position().toPoint());
+    drag->setMimeData(payload.getMimeData());
+    drag->exec(Qt::CopyAction); // the drop may delete tag and list
+}
+
+void oVIXDragDropListWidget::clear()
+{
+    m_addItem = nullptr;
+    QListWidget::clear();
+}
+
+void oVIXDragDropListWidget::fnWantsAction()
+{
+    if (const int row = rowOfSender(); row >= 0)
+        emit wantsChange(row);
+}
+
+void oVIXDragDropListWidget::fnWantsMove()
+{
+    if (const int row = rowOfSender(); row >= 0)
+        emit wantsMove(row);
+}
+
+void oVIXDragDropListWidget::fnAdd(QString text)
+{
+    emit addNewItem(text);
+}
+
+void oVIXDragDropListWidget::dragEnterEvent(QDragEnterEvent *event)
+{
+    acceptOwnType(event);
+}
+
+void oVIXDragDropListWidget::dragMoveEvent(QDragMoveEvent *event)
+{
+    acceptOwnType(event);
+}
+
+void oVIXDragDropListWidget::dropEvent(QDropEvent *event)
+{
+    emit dropTriggered(event);
+}
+
+void oVIXDragDropListWidget::hideEvent(QHideEvent *event)
+{
+    m_deferred->release();
+    QListWidget::hideEvent(event);
+}
+
+void oVIXDragDropListWidget::rowsInserted(const QModelIndex &parent, int first, int last)
+{
+    if (!m_addsItself)
+        m_knownSorted = false;
+    const auto inserting = m_deferred->inserting();
+    QListWidget::rowsInserted(parent, first, last);
+}
+
+void oVIXDragDropListWidget::rowsAboutToBeRemoved(const QModelIndex &parent, int first, int last)
+{
+    const int addRow = m_addItem ? row(m_addItem) : -1;
+    if (addRow >= first && addRow <= last) {
+        m_addItem = nullptr;
+        m_knownSorted = false; // what has stood behind it counts from now on
+    }
+    if (m_knownSorted && first < m_sortedTexts.size())
+        m_sortedTexts.remove(first, std::min(last + 1, int(m_sortedTexts.size())) - first);
+    QListWidget::rowsAboutToBeRemoved(parent, first, last);
+}
+
+void oVIXDragDropListWidget::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                                         const QList<int> &roles)
+{
+    // A row that gets its tag counts as changed, too.
+    const bool mayRename = roles.isEmpty() || roles.contains(Qt::DisplayRole) || roles.contains(Qt::EditRole);
+    if (mayRename && !m_addsItself)
+        m_knownSorted = false;
+    QListWidget::dataChanged(topLeft, bottomRight, roles);
+}
+
+void oVIXDragDropListWidget::updateEditorGeometries()
+{
+    if (!m_deferred->isInserting())
+        QListWidget::updateEditorGeometries();
+}
+
+oVIXDragTag *oVIXDragDropListWidget::tagAt(int row) const
+{
+    return qobject_cast<oVIXDragTag *>(itemWidget(item(row)));
+}
+
+int oVIXDragDropListWidget::rowOfSender() const
+{
+    const QObject *tag = sender();
+    for (int row = 0; tag && row < count(); ++row) {
+        if (itemWidget(item(row)) == tag)
+            return row;
+    }
+    return -1;
+}
+
+int oVIXDragDropListWidget::placeFor(const QString &text)
+{
+    if (!m_knownSorted) {
+        const int addRow = m_addItem ? row(m_addItem) : -1;
+        const int tags = addRow < 0 ? count() : addRow;
+        m_sortedTexts.clear();
+        for (int row = 0; row < tags; ++row)
+            m_sortedTexts.append(item(row)->text());
+        m_knownSorted = SortedPlace::isSorted(m_sortedTexts);
+    }
+    return m_knownSorted ? SortedPlace::amongSorted(m_sortedTexts, text) : SortedPlace::amongAny(m_sortedTexts, text);
+}
+
+void oVIXDragDropListWidget::acceptOwnType(QDragMoveEvent *event)
+{
+    if (event->source() == this || m_dropType < 0)
+        return;
+    if (VelmoDropData(event->mimeData()).getType() != m_dropType)
+        return;
+    event->setDropAction(event->proposedAction());
+    event->accept();
+}
+
+void oVIXDragDropListWidget::insert(QListWidgetItem *item, bool sorted)
+{
+    const bool placed = sorted && item != m_addItem;
+    const int row = placed ? placeFor(item->text()) : count();
+    const bool staysSorted = m_knownSorted && placed && !isSortingEnabled();
+    if (staysSorted)
+        m_sortedTexts.insert(row, item->text());
+    insertItem(row, item);
+    m_knownSorted = staysSorted;
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "VelmoGuiExport.h"
+
+#include <QLabel>
+
+/// The chip of a row in an `oVIXTagListWidget`, whose style sheet colours it. 20 pixels high; the text is plain.
+class VELMO_GUI_EXPORT oVIXTagListWidgetItem : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit oVIXTagListWidgetItem(QWidget *parent = nullptr);
+    ~oVIXTagListWidgetItem() override;
+
+    /// Makes the chip as wide as the text asks for, too.
+    void setText(const QString &text);
+};
