@@ -1,3 +1,4 @@
+#include "support/Events.h"
 #include "support/TestCase.h"
 
 #include "simulation/Bake.h"
@@ -5,6 +6,7 @@
 
 #include <QSignalSpy>
 #include <QTest>
+#include <QThread>
 
 using namespace Qt::StringLiterals;
 
@@ -87,9 +89,16 @@ private slots:
         QCOMPARE(bake.positions(49), crowd.positions());
         QCOMPARE(bake.positions(50), QList<QPointF>());
 
+        bake.start(scene, settingsFor(1), 1, 10);
+        QTRY_COMPARE(bake.computedFrames(), 1);
+        QThread::msleep(20); // the thread's end is on its way
+        bake.stop();
+        QVERIFY(Events::untilIdle());
+        QCOMPARE(stopped.size(), 2);
+
         bake.start(scene, settingsFor(2000), 100000, 10);
         bake.stop();
-        QCOMPARE(stopped.size(), 2);
+        QCOMPARE(stopped.size(), 3);
         QVERIFY(!bake.isRunning() && bake.computedFrames() < 100000);
         bake.clear();
         QCOMPARE(bake.positions(0), QList<QPointF>());

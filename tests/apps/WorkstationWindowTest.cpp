@@ -159,6 +159,9 @@ private slots:
             library->showThumbnails(size);
             QCOMPARE(list->model()->index(0, 0).data(Qt::DecorationRole).isNull(), size == 0);
         }
+        QCOMPARE(m_window->scenePage()->view()->options().highlightedType, u"tram"_s);
+        m_window->openScene(path(u"Hall"_s)); // without trams
+        QTRY_COMPARE(m_window->scenePage()->view()->options().highlightedType, QString());
     }
 
     void bakesAndPlaysInsideTheCrop()
@@ -178,6 +181,8 @@ private slots:
         QCOMPARE(page->bake().computedFrames(), 40);
         QCOMPARE(timebar->getMax(), 39);
         QCOMPARE(timebar->getCached(), 39);
+        QCOMPARE(timebar->getCropStartValue(), 10);
+        QCOMPARE(timebar->getCropEndValue(), 20);
 
         const auto shownX = [page] { return page->view()->scene().people.first().position.x(); };
         page->goToFrame(18);

@@ -10,6 +10,8 @@
 #include <QStandardItemModel>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -52,6 +54,7 @@ CrowdEditor::CrowdEditor(QWidget *parent)
     connect(m_pie, &oVIXPieChartWidget::valueFinished, this, &CrowdEditor::edited);
 
     m_bake->setAlignment(Qt::AlignCenter);
+    m_bake->setFocusPolicy(Qt::StrongFocus); // a press commits what is being typed
     layout->addWidget(m_bake);
     connect(m_bake, &oVIXButton::clicked, this, &CrowdEditor::bakeClicked);
     showBaking(false);
@@ -59,6 +62,7 @@ CrowdEditor::CrowdEditor(QWidget *parent)
 
 void CrowdEditor::setScene(const Scene &scene)
 {
+    m_count->setMaximum(std::max(mostPeople, int(scene.people.size())));
     m_count->setValue(double(scene.people.size()));
     m_shares->clear();
     const QList<LibraryEntry> kinds = LibraryEntry::of(scene);

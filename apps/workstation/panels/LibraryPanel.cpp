@@ -41,8 +41,8 @@ LibraryPanel::LibraryPanel(QMainWindow *window)
 
     connect(this, &oVIXDock::s_search, m_found, &QSortFilterProxyModel::setFilterFixedString);
     connect(this, &oVIXDock::thumbClicked, this, &LibraryPanel::showThumbnails);
-    connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this](const QModelIndex &current) { emit typeSelected(current.data(typeRole).toString()); });
+    connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] { emit typeSelected(selectedType()); });
     showThumbnails(getThumbnailSize());
 }
 
@@ -52,6 +52,8 @@ void LibraryPanel::setScene(const Scene &scene)
     QStringList names;
     for (const LibraryEntry &entry : std::as_const(m_entries))
         names << entry.type;
+    names.removeAll(QString());
+    names.removeDuplicates();
     m_names->setStringList(names);
     fill();
 }
@@ -68,6 +70,7 @@ void LibraryPanel::showThumbnails(int size)
 
 void LibraryPanel::fill()
 {
+    const QString selected = selectedType();
     m_model->clear();
     const int side = getThumbnailSize();
     for (const LibraryEntry &entry : std::as_const(m_entries)) {
@@ -79,4 +82,17 @@ void LibraryPanel::fill()
             item->setIcon(entry.picture(side, devicePixelRatio()));
         m_model->appendRow(item);
     }
+
+    // The list has forgotten its selection without a word.
+    const QModelIndexList found = m_found->match(m_found->index(0, 0), typeRole, selected, 1, Qt::MatchExactly);
+    if (!selected.isEmpty() && !found.isEmpty())
+        m_list->setCurrentIndex(found.first());
+    else
+        emit typeSelected(QString());
+}
+
+QString LibraryPanel::selectedType() const
+{
+    const QModelIndexList selected = m_list->selectionModel()->selectedIndexes();
+    return selected.isEmpty() ? QString() : selected.first().data(typeRole).toString();
 }

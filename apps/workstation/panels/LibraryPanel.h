@@ -27,6 +27,7 @@ signals:
 
 private:
     void fill();
+    QString selectedType() const;
 
     QList<LibraryEntry> m_entries;
     QStandardItemModel *m_model;

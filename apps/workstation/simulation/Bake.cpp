@@ -28,13 +28,17 @@ void Bake::start(const Scene &scene, const CrowdSettings &settings, int frames, 
     QList<QPointF> *firstFrame = m_frames.data();
     m_thread.reset(QThread::create([this, crowd, firstFrame, count = m_frames.size()] {
         for (int frame = 0; frame < count && !m_cancelled; ++frame) {
-            if (frame > 0)
-                crowd->step(1.0 / m_framesPerSecond);
+            if (frame > 0 && !crowd->step(1.0 / m_framesPerSecond, m_cancelled))
+                return;
             firstFrame[frame] = crowd->positions();
             m_computed = frame + 1;
         }
     }));
-    connect(m_thread.get(), &QThread::finished, this, &Bake::finish);
+    // The news may come when that thread has been stopped already, and another one runs.
+    connect(m_thread.get(), &QThread::finished, this, [this, thread = m_thread.get()] {
+        if (m_thread.get() == thread)
+            finish();
+    });
     m_thread->start();
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <numeric>
 
 namespace {
 
@@ -52,12 +53,14 @@ QList<QPointF> Crowd::positions() const
     return positions;
 }
 
-void Crowd::step(double seconds)
+bool Crowd::step(double seconds, const std::atomic_bool &cancelled)
 {
     const Cells neighbours = cells();
     QList<QPointF> moved;
     moved.reserve(m_people.size());
     for (qsizetype i = 0; i < m_people.size(); ++i) {
+        if (cancelled)
+            return false;
         SceneMover &person = m_people[i];
         QPointF target = person.position;
         const QPointF way = person.goal - person.position;
@@ -73,6 +76,7 @@ void Crowd::step(double seconds)
     }
     for (qsizetype i = 0; i < m_people.size(); ++i)
         m_people[i].position = moved[i];
+    return true;
 }
 
 void Crowd::place(const Scene &scene)

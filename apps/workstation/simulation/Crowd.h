@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QPoint>
 
+#include <atomic>
 #include <random>
 
 /// People on a plane who walk to their goals, turn no faster than they can and keep apart. The same scene and settings
@@ -20,8 +21,8 @@ public:
     QList<SceneMover> people() const;
     QList<QPointF> positions() const;
 
-    /// Lets @p seconds pass.
-    void step(double seconds);
+    /// Lets @p seconds pass. False, and nobody has moved, when cancelled meanwhile.
+    bool step(double seconds, const std::atomic_bool &cancelled = false);
 
 private:
     using Cells = QHash<QPoint, QList<qsizetype>>;

@@ -10,6 +10,8 @@ struct CrowdSettings
     {
         QString type;
         double percent = 0.0;
+
+        bool operator==(const Share &) const = default;
     };
 
     int count = 0;
@@ -22,4 +24,6 @@ struct CrowdSettings
     double turnRate = 180.0;
     /// How many people are of which type.
     QList<Share> shares;
+
+    bool operator==(const CrowdSettings &) const = default;
 };

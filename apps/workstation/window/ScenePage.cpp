@@ -57,14 +57,13 @@ ScenePage::ScenePage(QWidget *parent)
     connect(m_timebar, &oVIXTimebarWidget::s_cropChanged, this, [this] { m_timebar->constrainPlayTimeToCropValues(); });
 }
 
-void ScenePage::setScene(const Scene &scene)
+void ScenePage::setScene(const Scene &scene, const CrowdSettings &settings)
 {
     setPlaying(false);
     m_scene = scene;
     m_view->setScene(scene);
-    CrowdSettings settings;
-    settings.count = int(scene.people.size());
-    setCrowd(settings);
+    m_settings = settings;
+    showCrowd();
     const int last = std::max(0, framesFor(scene, settings.count) - 1);
     const bool hasCrop = scene.cropLast > scene.cropFirst;
     m_timebar->setCropValues(hasCrop ? std::clamp(scene.cropFirst, 0, last) : 0,
@@ -96,13 +95,29 @@ const Bake &ScenePage::bake() const
 
 void ScenePage::setCrowd(const CrowdSettings &settings)
 {
-    setPlaying(false);
+    if (settings == m_settings)
+        return;
     m_settings = settings;
+    showCrowd();
+}
+
+void ScenePage::showCrowd()
+{
+    setPlaying(false);
     m_bake.clear();
-    m_timebar->setMaxValue(std::max(0, framesFor(m_scene, settings.count) - 1));
+    setFrames(framesFor(m_scene, m_settings.count));
     m_timebar->setPlayWidgetFrame(0);
-    m_view->setPeople(Crowd(m_scene, settings).people());
+    m_view->setPeople(Crowd(m_scene, m_settings).people());
     m_playButton->setEnabled(false);
+}
+
+void ScenePage::setFrames(int frames)
+{
+    const int last = std::max(0, frames - 1);
+    const int first = m_timebar->getCropStartValue();
+    const int end = m_timebar->getCropEndValue();
+    m_timebar->setMaxValue(last);
+    m_timebar->setCropValues(std::min(first, last), std::min(end, last));
 }
 
 void ScenePage::toggleBaking()
@@ -113,7 +128,8 @@ void ScenePage::toggleBaking()
     }
     setPlaying(false);
     m_bake.start(m_scene, m_settings, framesFor(m_scene, m_settings.count), m_scene.framesPerSecond);
-    m_timebar->setMaxValue(std::max(0, m_bake.frameCount() - 1));
+    setFrames(m_bake.frameCount());
+    m_view->setPeople(m_bake.people());
     m_progress->setPercent(0);
     m_progress->show();
     m_progress->raise();
@@ -177,6 +193,8 @@ QWidget *ScenePage::createPlayer()
             ViewOptions options = m_view->options();
             options.mode = mode;
             m_view->setOptions(options);
+            if (m_bake.computedFrames() > 0)
+                showFrame(m_timebar->getCurrentPlayValue());
         });
     };
     addMode(ViewOptions::Mode::Dots, u"Dots"_s, tr("Where people are"));
@@ -229,7 +247,7 @@ void ScenePage::takeOverPickedFrame()
     m_timebar->unblock();
     m_timebar->setPlayWidgetFrame(m_timebar->getSelectedValue());
     m_timebar->constrainPlayTimeToCropValues();
-    showFrame(m_timebar->getCurrentPlayValue());
+    goToFrame(m_timebar->getCurrentPlayValue());
 }
 
 void ScenePage::finishBaking()

@@ -20,13 +20,14 @@ class ScenePage : public QWidget
 public:
     explicit ScenePage(QWidget *parent = nullptr);
 
-    void setScene(const Scene &scene);
+    void setScene(const Scene &scene, const CrowdSettings &settings);
     const Scene &scene() const;
     SceneView *view() const;
     oVIXTimebarWidget *timebar() const;
     const Bake &bake() const;
 
-    /// Shows the crowd that these settings make of the scene. What has been baked is forgotten.
+    /// Shows the crowd that these settings make of the scene. What has been baked is forgotten, unless they are the
+    /// same as before.
     void setCrowd(const CrowdSettings &settings);
     /// Bakes the crowd, or stops baking. Frames can be played while others are being baked.
     void toggleBaking();
@@ -47,6 +48,9 @@ protected:
 
 private:
     QWidget *createPlayer();
+    void showCrowd();
+    /// The crop stays, as far as there are frames.
+    void setFrames(int frames);
     void showBaked();
     void showFrame(int frame);
     void playNext();

@@ -59,9 +59,12 @@ SceneView::SceneView(QWidget *parent) : QWidget(parent)
 void SceneView::setScene(const Scene &scene)
 {
     m_scene = scene;
-    m_centre = scene.bounds().center();
+    m_bounds = scene.bounds();
+    m_centre = m_bounds.center();
     setAccessibleName(tr("Scene %1 from above").arg(scene.name));
     setPeople(scene.people);
+    m_options.zoom = 1.0;
+    emit zoomChanged(m_options.zoom);
 }
 
 void SceneView::setPeople(const QList<SceneMover> &people)
@@ -111,7 +114,7 @@ void SceneView::paintEvent(QPaintEvent *)
     painter.fillRect(rect(), Palette::deep);
     painter.setRenderHint(QPainter::Antialiasing);
     const QTransform transform = sceneToView();
-    painter.fillRect(transform.mapRect(m_scene.bounds()), Palette::window);
+    painter.fillRect(transform.mapRect(m_bounds), Palette::window);
 
     painter.setPen(QPen(Palette::secondaryText, 1.5));
     for (const QPolygonF &wall : m_scene.walls)
@@ -166,9 +169,8 @@ void SceneView::mouseMoveEvent(QMouseEvent *event)
 
 QTransform SceneView::sceneToView() const
 {
-    const QRectF bounds = m_scene.bounds();
-    const double fitting = std::min(std::max(1, width() - 2 * margin) / bounds.width(),
-                                    std::max(1, height() - 2 * margin) / bounds.height());
+    const double fitting = std::min(std::max(1, width() - 2 * margin) / m_bounds.width(),
+                                    std::max(1, height() - 2 * margin) / m_bounds.height());
     const double scale = fitting * m_options.zoom;
     QTransform transform = QTransform::fromTranslate(width() / 2.0, height() / 2.0).scale(scale, -scale);
     return transform.translate(-m_centre.x(), -m_centre.y());

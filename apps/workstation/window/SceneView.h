@@ -51,6 +51,7 @@ private:
     QList<QColor> m_peopleColours;
     QList<QList<QPointF>> m_trail;
     QList<QPointF> m_goals;
+    QRectF m_bounds = m_scene.bounds(); // people may leave them
     QPointF m_centre; // of the view, in metres
     QPointF m_dragged;
 };

@@ -235,7 +235,10 @@ void WorkstationWindow::hidePanels()
 
 void WorkstationWindow::restorePanels()
 {
-    restoreState(m_panelState);
+    if (restoreState(m_panelState))
+        return;
+    for (QDockWidget *panel : panels())
+        panel->show();
 }
 
 void WorkstationWindow::saveLayout()
@@ -268,7 +271,7 @@ void WorkstationWindow::showScene(const Scene &scene)
 {
     m_library->setScene(scene);
     m_parameters->crowd()->setScene(scene);
-    m_scenePage->setScene(scene);
+    m_scenePage->setScene(scene, m_parameters->crowd()->settings());
     showPage(m_scenePage);
     restorePanels();
     setWindowTitle(tr("%1 - %2").arg(scene.name, QGuiApplication::applicationDisplayName()));

@@ -36,8 +36,8 @@ public:
     using oVIXWindowWait::progressEvent;
 
 signals:
-    /// The start delay is over; emitted once for every end of a delay, by the first report on the GUI thread that finds it over. A report
-    /// from another thread in between takes the announcement away.
+    /// The start delay is over; emitted once for every end of a delay, by the first report on the GUI thread that finds
+    /// it over. A report from another thread in between takes the announcement away.
     void delayFinished();
 
 private:
