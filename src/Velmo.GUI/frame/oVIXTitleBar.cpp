@@ -53,7 +53,8 @@ void oVIXTitleBar::maximize()
 
 bool oVIXTitleBar::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_menuBar && event->type() == QEvent::Resize)
+    // The menu bar still gets events while it is destroyed, and is only a widget then.
+    if (event->type() == QEvent::Resize && watched == titleWidget())
         repositionLabels();
     return oVIXTitleBarFilter::eventFilter(watched, event);
 }
