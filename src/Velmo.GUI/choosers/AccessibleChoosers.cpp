@@ -13,31 +13,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class AccessibleButton : public AccessiblePressable
+class AccessibleButton : public AccessibleCheckable<oVIXButton>
 {
 public:
-    explicit AccessibleButton(QWidget *widget) : AccessiblePressable(widget, QAccessible::Button) { }
-
-    /// Asked each time: a button may be made checkable after the first question.
-    QAccessible::Role role() const override
-    {
-        return button()->isCheckable() ? QAccessible::CheckBox : QAccessible::Button;
-    }
-
-    QAccessible::State state() const override
-    {
-        QAccessible::State state = AccessiblePressable::state();
-        state.checkable = button()->isCheckable();
-        state.checked = button()->isChecked();
-        return state;
-    }
+    using AccessibleCheckable::AccessibleCheckable;
 
 protected:
     QString purpose() const override { return button()->text(); }
-    void press() override { button()->click(); }
-
-private:
-    oVIXButton *button() const { return static_cast<oVIXButton *>(widget()); }
 };
 
 class AccessibleCombo : public AccessiblePressable

@@ -21,3 +21,28 @@ protected:
     /// Does what a click does.
     virtual void press() = 0;
 };
+
+/// A button that may be made checkable.
+template <class Button> class AccessibleCheckable : public AccessiblePressable
+{
+public:
+    explicit AccessibleCheckable(QWidget *widget) : AccessiblePressable(widget, QAccessible::Button) { }
+
+    /// Asked each time: a button may be made checkable after the first question.
+    QAccessible::Role role() const override
+    {
+        return button()->isCheckable() ? QAccessible::CheckBox : QAccessible::Button;
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = AccessiblePressable::state();
+        state.checkable = button()->isCheckable();
+        state.checked = button()->isChecked();
+        return state;
+    }
+
+protected:
+    void press() override { button()->click(); }
+    Button *button() const { return static_cast<Button *>(widget()); }
+};

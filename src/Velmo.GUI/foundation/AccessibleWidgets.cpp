@@ -59,32 +59,14 @@ public:
     }
 };
 
-class AccessibleIconButton : public AccessiblePressable
+class AccessibleIconButton : public AccessibleCheckable<OvixSvgButton>
 {
 public:
-    explicit AccessibleIconButton(QWidget *widget) : AccessiblePressable(widget, QAccessible::Button) { }
-
-    /// Asked each time: a button may be made checkable after the first question.
-    QAccessible::Role role() const override
-    {
-        return button()->isCheckable() ? QAccessible::CheckBox : QAccessible::Button;
-    }
-
-    QAccessible::State state() const override
-    {
-        QAccessible::State state = AccessiblePressable::state();
-        state.checkable = button()->isCheckable();
-        state.checked = button()->isChecked();
-        return state;
-    }
+    using AccessibleCheckable::AccessibleCheckable;
 
 protected:
     QString purpose() const override { return wordsOf(button()->firstFilename()); }
     bool isPressable() const override { return button()->isEnabled() && !button()->ignoresSingleClick(); }
-    void press() override { button()->click(); }
-
-private:
-    OvixSvgButton *button() const { return static_cast<OvixSvgButton *>(widget()); }
 };
 
 class AccessibleClickableLabel : public AccessiblePressable
