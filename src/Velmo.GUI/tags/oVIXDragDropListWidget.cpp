@@ -14,6 +14,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -30,6 +31,46 @@ QPixmap dragPictureOf(QWidget *tag)
     tag->render(&picture, QPoint(), QRegion(QRect(QPoint(), size)), QWidget::DrawChildren);
     return picture;
 }
+
+/// A tag of the list, which may wait until it comes into view: the toolkit shows the widget of a row at once and styles
+/// every new widget at the next turn of the event loop, and that is most of what a tag costs.
+class RowTag : public oVIXDragTag
+{
+public:
+    using oVIXDragTag::oVIXDragTag;
+
+    void wait()
+    {
+        m_waits = true;
+        for (QObject *child : children())
+            child->installEventFilter(this);
+    }
+    bool waits() const { return m_waits; }
+    void comeIntoView()
+    {
+        m_waits = false;
+        for (QObject *child : children())
+            child->removeEventFilter(this);
+        show();
+    }
+    void setVisible(bool visible) override
+    {
+        if (!visible || !m_waits)
+            oVIXDragTag::setVisible(visible);
+    }
+
+protected:
+    bool event(QEvent *event) override { return isTooEarly(event) || oVIXDragTag::event(event); }
+    bool eventFilter(QObject *child, QEvent *event) override
+    {
+        return isTooEarly(event) || oVIXDragTag::eventFilter(child, event);
+    }
+
+private:
+    bool isTooEarly(const QEvent *event) const { return m_waits && event->type() == QEvent::PolishRequest; }
+
+    bool m_waits = false;
+};
 
 } // namespace
 
@@ -66,8 +107,12 @@ QListWidgetItem *oVIXDragDropListWidget::addCustomItem(const QString &text, DRAG
     const QScopedValueRollback addsItself(m_addsItself, true);
     insert(item, sorted);
 
-    auto *tag = new oVIXDragTag(text, m_tagColor, m_tagTextColor, button, m_showAllButtons, viewport());
+    auto *tag = new RowTag(text, m_tagColor, m_tagTextColor, button, m_showAllButtons, viewport());
     DeferredRows::park(tag);
+    if (button != BUTTON_ADD && isBelowView(row(item))) {
+        tag->wait();
+        m_tagsWait = true;
+    }
     setItemWidget(item, tag);
     connect(tag, &oVIXDragTag::tagClicked, this, &oVIXDragDropListWidget::fnWantsAction);
     connect(tag, &oVIXDragTag::doubleClick, this, &oVIXDragDropListWidget::fnWantsMove);
@@ -190,6 +235,12 @@ void oVIXDragDropListWidget::hideEvent(QHideEvent *event)
     QListWidget::hideEvent(event);
 }
 
+void oVIXDragDropListWidget::scrollContentsBy(int dx, int dy)
+{
+    QListWidget::scrollContentsBy(dx, dy);
+    showTagsInView();
+}
+
 void oVIXDragDropListWidget::rowsInserted(const QModelIndex &parent, int first, int last)
 {
     if (!m_addsItself)
@@ -222,13 +273,37 @@ void oVIXDragDropListWidget::dataChanged(const QModelIndex &topLeft, const QMode
 
 void oVIXDragDropListWidget::updateEditorGeometries()
 {
-    if (!m_deferred->isInserting())
-        QListWidget::updateEditorGeometries();
+    if (m_deferred->isInserting())
+        return;
+    QListWidget::updateEditorGeometries();
+    showTagsInView();
 }
 
 oVIXDragTag *oVIXDragDropListWidget::tagAt(int row) const
 {
     return qobject_cast<oVIXDragTag *>(itemWidget(item(row)));
+}
+
+/// Without the layout, which is put off while rows are added: a row that is taken for one below the view is shown by
+/// the layout.
+bool oVIXDragDropListWidget::isBelowView(int row) const
+{
+    return isVisible() && row - verticalScrollBar()->value() > viewport()->height() / rowHeight;
+}
+
+void oVIXDragDropListWidget::showTagsInView()
+{
+    if (!std::exchange(m_tagsWait, false))
+        return;
+    for (int row = 0; row < count(); ++row) {
+        auto *tag = dynamic_cast<RowTag *>(itemWidget(item(row)));
+        if (!tag || !tag->waits())
+            continue;
+        if (visualItemRect(item(row)).intersects(viewport()->rect()))
+            tag->comeIntoView();
+        else
+            m_tagsWait = true;
+    }
 }
 
 int oVIXDragDropListWidget::rowOfSender() const

@@ -15,8 +15,9 @@ class DeferredRows;
 ///
 /// The list makes the tags, keeps those in order that are inserted so, starts their drags, and tells its owner with row
 /// numbers what the user asks for. It decides nothing: a drop changes no list unless the owner does. Rows cannot be
-/// selected. Rows that are added while the list is on screen take their place at the next turn of the event loop. The
-/// owner may delete the list or its rows from any signal.
+/// selected. Rows that are added while the list is on screen take their place at the next turn of the event loop, and
+/// their tags are not visible before they first come into view. The owner may delete the list or its rows from any
+/// signal.
 class VELMO_GUI_EXPORT oVIXDragDropListWidget : public QListWidget
 {
     Q_OBJECT
@@ -73,6 +74,7 @@ protected:
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
     void rowsInserted(const QModelIndex &parent, int first, int last) override;
     void rowsAboutToBeRemoved(const QModelIndex &parent, int first, int last) override;
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight, const QList<int> &roles) override;
@@ -80,6 +82,8 @@ protected:
 
 private:
     oVIXDragTag *tagAt(int row) const;
+    bool isBelowView(int row) const;
+    void showTagsInView();
     int rowOfSender() const;
     int placeFor(const QString &text);
     void acceptOwnType(QDragMoveEvent *event);
@@ -94,4 +98,5 @@ private:
     bool m_knownSorted = false;
     QList<QString> m_sortedTexts; // of the rows before the add tag, where they are known to be sorted
     bool m_addsItself = false;
+    bool m_tagsWait = false;
 };
