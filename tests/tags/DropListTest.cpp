@@ -2,6 +2,7 @@
 #include "support/Gestures.h"
 #include "support/TestCase.h"
 
+#include "foundation/QClickableLabel.h"
 #include "tags/VelmoDrag.h"
 #include "tags/oVIXAutoHideLine.h"
 #include "tags/oVIXDragDropListWidget.h"
@@ -271,6 +272,35 @@ private slots:
         QTest::keyClick(&list, Qt::Key_Down);
         QCOMPARE(list.currentRow(), 1);
         QVERIFY(list.selectedItems().isEmpty());
+    }
+
+    void showsTagsThatComeIntoView()
+    {
+        List list;
+        Gestures::show(&list);
+        for (int i = 0; i < 100; ++i)
+            list.addCustomItem(u"tag %1"_s.arg(100 + i), BUTTON_REMOVE, true);
+        list.setTagTextColor(Qt::red, Qt::white, -1);
+        QVERIFY(Events::untilIdle());
+        const auto isShown = [&list](int row) {
+            const oVIXDragTag *tag = list.tag(row);
+            return tag->isVisible() && tag->pos() == list.visualItemRect(list.item(row)).topLeft()
+                && tag->findChild<QClickableLabel *>()->isVisible();
+        };
+        QVERIFY(isShown(0) && isShown(9) && !list.tag(40)->isVisible());
+        list.scrollToItem(list.item(40));
+        QVERIFY(isShown(40) && !list.tag(70)->isVisible());
+        QCOMPARE(list.tag(40)->grab().toImage().pixelColor(80, 12), QColor(Qt::red));
+        for (int i = 0; i < 30; ++i)
+            delete list.takeItem(41);
+        QVERIFY(Events::untilIdle());
+        QVERIFY(isShown(41) && list.tag(41)->text() == u"tag 171"_s && !list.tag(69)->isVisible());
+        list.scrollToTop();
+        list.hide();
+        list.resize(200, 2000);
+        list.show();
+        QVERIFY(Events::untilIdle());
+        QVERIFY(isShown(0) && isShown(60) && isShown(69));
     }
 
     void mayBeClearedOrDeletedByItsSignals()
