@@ -1,4 +1,5 @@
-// What the list of tags costs: filled in order while it is on screen, and the search for a tag's place.
+// What the list of tags costs: filled in order while it is on screen, the search for a tag's place, and changes of all
+// its tags.
 
 #include "Limited.h"
 #include "tags/SortedPlace.h"
@@ -96,6 +97,63 @@ void addAndSort(benchmark::State &state)
     }
 }
 
+std::unique_ptr<oVIXDragDropListWidget> filledList(const QStringList &names)
+{
+    auto list = std::make_unique<oVIXDragDropListWidget>();
+    for (const QString &name : names)
+        list->addCustomItem(name, BUTTON_REMOVE, false);
+    settle();
+    return list;
+}
+
+void recolourList(benchmark::State &state)
+{
+    const auto list = filledList(tagNames(int(state.range(0))));
+    QColor colour = Qt::red;
+    for (auto _ : state) {
+        colour = colour == Qt::red ? Qt::blue : Qt::red;
+        list->setTagTextColor(colour, Qt::white, -1);
+    }
+}
+
+void recolourChips(benchmark::State &state)
+{
+    const auto list = filledList(tagNames(int(state.range(0))));
+    const QList<oVIXDragTag *> chips = list->findChildren<oVIXDragTag *>();
+    QColor colour = Qt::red;
+    for (auto _ : state) {
+        colour = colour == Qt::red ? Qt::blue : Qt::red;
+        for (oVIXDragTag *chip : chips)
+            chip->setColors(colour, Qt::white);
+    }
+}
+
+/// As many names as tags, half of which are there.
+void enableTags(benchmark::State &state)
+{
+    const int count = int(state.range(0));
+    const QStringList names = tagNames(2 * count);
+    const auto list = filledList(names.first(count));
+    const QStringList enabled = names.mid(count / 2, count);
+    for (auto _ : state) {
+        list->setEnabledItems(enabled);
+        list->setEnabledItems({});
+    }
+}
+
+void enableChips(benchmark::State &state)
+{
+    const int count = int(state.range(0));
+    const auto list = filledList(tagNames(count));
+    const QList<oVIXDragTag *> chips = list->findChildren<oVIXDragTag *>();
+    for (auto _ : state) {
+        for (int i = 0; i < count; ++i)
+            chips[i]->setEnabled(i >= count / 2);
+        for (oVIXDragTag *chip : chips)
+            chip->setEnabled(false);
+    }
+}
+
 } // namespace
 
 BENCHMARK(limited<fillSorted, 140>)
@@ -116,3 +174,7 @@ BENCHMARK(limited<fillSorted, 1200>)
 BENCHMARK(fillSorted)->Name("tag_list_100_to_1000/plain")->Arg(100)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(limited<searchPlaces, 30>)->Name("tag_list_search_1000/ours")->Arg(1000);
 BENCHMARK(addAndSort)->Name("tag_list_search_1000/plain")->Arg(1000);
+BENCHMARK(limited<recolourList, 120>)->Name("tag_list_recolour/ours")->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(recolourChips)->Name("tag_list_recolour/plain")->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(limited<enableTags, 200>)->Name("tag_list_enable/ours")->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(enableChips)->Name("tag_list_enable/plain")->Arg(1000)->Unit(benchmark::kMillisecond);
