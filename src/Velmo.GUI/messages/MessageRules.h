@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/ShownText.h"
 #include "messages/VelmoMessageBox.h"
 
 #include <algorithm>
@@ -21,4 +22,13 @@ inline QString countdownText(const QString &text, int seconds)
 inline VelmoMsgReturnCode returnCodeOf(int result)
 {
     return result == MsgAccepted || result == MsgOther ? VelmoMsgReturnCode(result) : MsgRejected;
+}
+
+/// A box's body that names something a user has named: @p message, which may be rich text, with @p name as typed in the
+/// place of its %1.
+inline QString bodyNaming(const QString &message, const QString &name)
+{
+    // The box takes a text without tags for plain; this one is rich, whatever message and name are.
+    const QString body = QString(message).replace(QLatin1String("%1"), ShownText::oneLine(name).toHtmlEscaped());
+    return QLatin1String("<div style='white-space:pre-wrap'>") + body + QLatin1String("</div>");
 }

@@ -99,3 +99,18 @@ QString TagSheets::tagListScrollBar()
 {
     return scrollBar("rgba(39,39,39,125)"_L1);
 }
+
+QString TagSheets::paneList()
+{
+    return u"QListWidget {\tborder:0px;"_s;
+}
+
+QString TagSheets::paneTitle()
+{
+    return u"QLabel { color: rgb(219,219,219); } QLabel:disabled { color: rgb(156,156,156); }"_s;
+}
+
+QString TagSheets::paneSeparator(QLatin1StringView colour)
+{
+    return u"QWidget {\tborder:0px;\tbackground-color:%1;}"_s.arg(colour);
+}

@@ -4,7 +4,7 @@
 
 class QColor;
 
-/// The style sheets of chips and of the lists that show them.
+/// The style sheets of chips, of the lists that show them and of the two-pane editor.
 namespace TagSheets {
 
 /// A chip that can be dragged; @p background is written as it is.
@@ -13,5 +13,10 @@ QString addLine(const QColor &background, const QColor &text);
 QString dropListScrollBar();
 QString tagList(const QColor &tag, const QColor &text);
 QString tagListScrollBar();
+/// For the lists of the two-pane editor. The brace stays open, so the sheet sets nothing and just takes the place of the
+/// one in the form; the toolkit warns of it once for each list.
+QString paneList();
+QString paneTitle();
+QString paneSeparator(QLatin1StringView colour);
 
 } // namespace TagSheets
