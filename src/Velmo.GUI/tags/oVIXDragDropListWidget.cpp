@@ -12,6 +12,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QSet>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 #include <utility>
@@ -72,6 +73,20 @@ private:
     bool m_waits = false;
 };
 
+/// Leaves the text of a row to its tag, which does not cover all of it.
+class RowWithoutText : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->text.clear();
+    }
+};
+
 } // namespace
 
 oVIXDragDropListWidget::oVIXDragDropListWidget(QWidget *parent)
@@ -79,6 +94,7 @@ oVIXDragDropListWidget::oVIXDragDropListWidget(QWidget *parent)
 {
     setSelectionMode(NoSelection);
     setAcceptDrops(true);
+    setItemDelegate(new RowWithoutText(this));
     verticalScrollBar()->setStyleSheet(TagSheets::dropListScrollBar());
 
     const auto forgetOrder = [this] { m_knownSorted = false; };
