@@ -23,6 +23,12 @@ void run(const QStringList &arguments)
     QTest::qWait(50); // what the window system still has on its way
 }
 
+QStringList movingTo(QPoint point)
+{
+    const QPointF native = QPointF(point) * qGuiApp->devicePixelRatio();
+    return {u"mousemove"_s, QString::number(qRound(native.x())), QString::number(qRound(native.y()))};
+}
+
 } // namespace
 
 void RealInput::show(QWidget *window, const QRect &geometry)
@@ -38,8 +44,7 @@ void RealInput::show(QWidget *window, const QRect &geometry)
 
 void RealInput::moveTo(QPoint point)
 {
-    const QPointF native = QPointF(point) * qGuiApp->devicePixelRatio();
-    run({u"mousemove"_s, QString::number(qRound(native.x())), QString::number(qRound(native.y()))});
+    run(movingTo(point));
 }
 
 void RealInput::press()
@@ -66,11 +71,12 @@ void RealInput::doubleClick(QPoint point)
 
 void RealInput::drag(QPoint from, QPoint to)
 {
-    moveTo(from);
-    press();
+    // By one process: the first moves may start an event loop that ends with the release only.
+    const QStringList pause{u"sleep"_s, u"0.08"_s};
+    QStringList arguments = movingTo(from) + pause + QStringList{u"mousedown"_s, u"1"_s} + pause;
     for (int step = 1; step <= dragSteps; ++step)
-        moveTo(from + (to - from) * step / dragSteps);
-    release();
+        arguments += movingTo(from + (to - from) * step / dragSteps) + pause;
+    run(arguments + QStringList{u"mouseup"_s, u"1"_s});
 }
 
 void RealInput::key(const QString &keys)
