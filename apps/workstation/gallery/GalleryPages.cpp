@@ -12,6 +12,7 @@
 #include "gallery/ProgressBarsPage.h"
 #include "gallery/SceneListPage.h"
 #include "gallery/SlidersPage.h"
+#include "gallery/TagEditorPage.h"
 #include "gallery/TagsPage.h"
 #include "gallery/TimebarPage.h"
 #include "gallery/TitleBarsPage.h"
@@ -37,6 +38,7 @@ QList<GalleryPages::Page> GalleryPages::all()
         {u"pie-chart"_s, PieChartPage::tr("Pie chart"), [] { return new PieChartPage; }},
         {u"toggles"_s, TogglesPage::tr("Toggles"), [] { return new TogglesPage; }},
         {u"tags"_s, TagsPage::tr("Tags"), [] { return new TagsPage; }},
+        {u"tag-editor"_s, TagEditorPage::tr("Tag editor"), [] { return new TagEditorPage; }},
         {u"scene-list"_s, SceneListPage::tr("Scene list"), [] { return new SceneListPage; }},
     };
 }
