@@ -1,17 +1,15 @@
 #include "browser/VelmoSceneItem.h"
 
-#include "browser/AccessibleSceneItem.h"
+#include "browser/AccessibleBrowser.h"
+#include "browser/BrowserRow.h"
 #include "foundation/AccessibleWidgets.h"
 #include "foundation/OvixSvgKey.h"
 #include "foundation/OvixSvgRenderer.h"
-#include "foundation/SheetOnChange.h"
-#include "foundation/VelmoPalette.h"
+#include "foundation/ShownText.h"
 #include "ui_VelmoSceneItem.h"
 
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QListWidgetItem>
-#include <QToolTip>
 
 #include <algorithm>
 #include <limits>
@@ -22,16 +20,6 @@ namespace {
 
 constexpr int toggleColumnWidth = 18;
 constexpr int statusIconMargin = 4;
-constexpr int elisionLimit = 2000; // characters; no column shows as many
-
-QString rowSheet(const QString &border, const QString &background, const QString &text)
-{
-    // clang-format off
-    return u"#backgroundWidget {\tmargin:2px;%1\tborder-radius:3px;\tbackground-color:%2;\tcolor:%3;}"
-            "#backgroundWidget:disabled {\tbackground-color:rgb(59,59,59);\tborder-color:rgb(39,39,39);}"
-            "QLabel { \tcolor:%3; \tbackground-color:transparent;}"_s.arg(border, background, text);
-    // clang-format on
-}
 
 /// An icon label keeps its last picture when it loses its files, so it is given an empty one first.
 void showWarning(OvixSvgButton *label, bool warns)
@@ -41,17 +29,6 @@ void showWarning(OvixSvgButton *label, bool warns)
         label->paintEventUpdate();
     }
     label->setFilename(warns ? u":/Windows/Warning"_s : QString());
-}
-
-/// The text on one line, with an ellipsis where it does not fit. Looks no further into the text than there can be room
-/// for: a file can hold texts of any length.
-QString elidedText(const QFontMetrics &metrics, const QString &text, int width)
-{
-    const bool isCut = text.size() > elisionLimit;
-    QString line = isCut ? text.left(elisionLimit) + u'\u2026' : text;
-    for (const QChar lineBreak : {u'\n', u'\r', u'\u2028', u'\u2029'})
-        line.replace(lineBreak, u' ');
-    return metrics.elidedText(line, Qt::ElideRight, width);
 }
 
 /// Gives the toggle its column before it has been painted for the first time.
@@ -68,7 +45,7 @@ QPixmap toggleBeforeFirstPaint()
 VelmoSceneItem::VelmoSceneItem(QListWidgetItem *item, QWidget *parent)
     : QWidget(parent), m_ui(new Ui::VelmoSceneItem), m_item(item)
 {
-    AccessibleSceneItem::install();
+    AccessibleBrowser::install();
     m_ui->setupUi(this);
     m_texts = {{
         {m_ui->nameLabel, {}},
@@ -182,30 +159,18 @@ QListWidgetItem *VelmoSceneItem::getItem() const
 
 void VelmoSceneItem::setWidths(int status, int lastModified, int bake, int actors, int timeFramerate, int version)
 {
-    const auto fixWidth = [](QWidget *label, int width) {
-        label->setFixedWidth(std::clamp(width, 0, QWIDGETSIZE_MAX));
-    };
-    fixWidth(m_ui->statusLabel, status);
-    fixWidth(m_ui->lastModifiedLabel, lastModified);
-    fixWidth(m_ui->bakeLabel, bake);
-    fixWidth(m_ui->actorsLabel, actors);
-    fixWidth(m_ui->timeFramerateLabel, timeFramerate);
-    fixWidth(m_ui->versionLabel, version);
+    BrowserRow::fixWidth(m_ui->statusLabel, status);
+    BrowserRow::fixWidth(m_ui->lastModifiedLabel, lastModified);
+    BrowserRow::fixWidth(m_ui->bakeLabel, bake);
+    BrowserRow::fixWidth(m_ui->actorsLabel, actors);
+    BrowserRow::fixWidth(m_ui->timeFramerateLabel, timeFramerate);
+    BrowserRow::fixWidth(m_ui->versionLabel, version);
 }
 
 void VelmoSceneItem::updateStyle()
 {
-    QLatin1String background = VelmoPalette::background;
-    QLatin1String text = VelmoPalette::secondaryText;
-    if (m_selected || m_addEnabled) {
-        background = VelmoPalette::accentTranslucent;
-        text = VelmoPalette::accent;
-    } else if (m_hovered) {
-        background = VelmoPalette::hover;
-        text = VelmoPalette::white;
-    }
     const QString border = m_addEnabled ? u"border:1px solid; border-color:rgb(22, 129, 189);"_s : QString();
-    setSheetOnChange(m_ui->backgroundWidget, rowSheet(border, background, text));
+    BrowserRow::setLook(m_ui->backgroundWidget, m_selected || m_addEnabled, m_hovered, border);
     m_ui->addButton->setFilename(m_addEnabled ? u":/Windows/ToggleOnChecked"_s : u":/Windows/ToggleOff"_s);
 }
 
@@ -268,10 +233,8 @@ void VelmoSceneItem::editionFinished()
 bool VelmoSceneItem::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == this) {
-        if (event->type() == QEvent::Enter || event->type() == QEvent::Leave) {
-            m_hovered = event->type() == QEvent::Enter;
+        if (BrowserRow::followsPointer(event, &m_hovered))
             updateStyle();
-        }
         return false;
     }
     if (watched == m_ui->nameEdit)
@@ -282,11 +245,7 @@ bool VelmoSceneItem::eventFilter(QObject *watched, QEvent *event)
                 showElided(elided);
         }
     }
-    if (watched == m_ui->nameLabel && event->type() == QEvent::ToolTip && !m_name.isEmpty()) {
-        showNameToolTip(static_cast<QHelpEvent *>(event)->globalPos());
-        return true;
-    }
-    return false;
+    return watched == m_ui->nameLabel && BrowserRow::showsPlainToolTip(m_ui->nameLabel, event);
 }
 
 void VelmoSceneItem::watchEditionFinished()
@@ -310,16 +269,10 @@ void VelmoSceneItem::showElided(const ElidedText &elided) const
     // The vehicles column has no width of its own: a long count must not push the others aside.
     const int column = elided.label == m_ui->vehiclesLabel ? elided.label->minimumWidth() : elided.label->width();
     const int width = column - std::max(elided.label->indent(), 0);
-    const QString shown = elidedText(elided.label->fontMetrics(), elided.text, width);
+    const QString shown =
+        elided.label->fontMetrics().elidedText(ShownText::oneLine(elided.text), Qt::ElideRight, width);
     if (elided.label->text() != shown)
         elided.label->setText(shown);
-}
-
-/// A name may look like markup; the tool tip shows it as typed.
-void VelmoSceneItem::showNameToolTip(const QPoint &globalPosition)
-{
-    const QString shown = u"<p style='white-space:pre-wrap'>%1</p>"_s.arg(m_name.toHtmlEscaped());
-    QToolTip::showText(globalPosition, shown, m_ui->nameLabel);
 }
 
 /// Escape drops what has been typed. Keys that a line does not use stay away from the list, which would select another

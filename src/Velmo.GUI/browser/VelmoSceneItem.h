@@ -89,7 +89,6 @@ private:
     void watchEditionFinished();
     void setText(QLabel *label, const QString &text);
     void showElided(const ElidedText &elided) const;
-    void showNameToolTip(const QPoint &globalPosition);
     bool handleEditKey(int key);
 
     std::unique_ptr<Ui::VelmoSceneItem> m_ui;

@@ -5,8 +5,6 @@
 #include "foundation/OvixSvgButton.h"
 #include "ui_VelmoScenesTable.h"
 
-#include <QScrollBar>
-#include <QSet>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -17,7 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int minimumRowHeight = 16;
 constexpr int newSceneButtonSize = 16;
 
 // clang-format off
@@ -27,14 +24,6 @@ QString tableSheet()
             "#backgroundWidget {\tborder-radius:4px;\tbackground-color:rgb(59,59,59);}"
             "QListWidget {\tbackground-color:transparent;}"
             "QListWidget::item {\tselection-background-color:transparent;}"_s;
-}
-
-QString scrollBarSheet()
-{
-    return u"QScrollBar:vertical {\twidth: 10px;\tbackground:rgb(59,59,59);   border-radius: 5px;}"
-            "QScrollBar::handle:vertical {\tbackground:rgb(81,81,81);\tmargin:2;\tmin-height: 20px;}"
-            "QScrollBar::handle:vertical:hover {\tbackground:rgb(116, 211, 252);}"
-            "QScrollBar::handle:vertical:disabled {\tbackground:rgb(59,59,59);}"_s;
 }
 // clang-format on
 
@@ -47,7 +36,6 @@ VelmoScenesTable::VelmoScenesTable(QWidget *parent)
     connect(m_ui->listWidget, &QListWidget::itemSelectionChanged, this, &VelmoScenesTable::listSelectionChanged);
     connect(m_ui->listWidget, &QListWidget::itemChanged, this, &VelmoScenesTable::updateNameOf);
     setStyleSheet(tableSheet());
-    m_ui->listWidget->verticalScrollBar()->setStyleSheet(scrollBarSheet());
 }
 
 VelmoScenesTable::~VelmoScenesTable() = default;
@@ -67,11 +55,9 @@ void VelmoScenesTable::addScene(const QString &name, bool versionWarning, const 
     row->setAddVisible(m_multiSelectionEnabled);
     row->setEditingEnabled(m_editingEnabled);
     row->setToolTip(compatible ? QString() : tr("Scene not compatible for merge tooltip."));
-    row->setMinimumHeight(minimumRowHeight);
     connect(row, &VelmoSceneItem::renameRequested, this, &VelmoScenesTable::renameRequested);
 
-    item->setSizeHint(QSize(0, std::max(row->height(), minimumRowHeight)));
-    m_ui->listWidget->setRowWidget(item, row);
+    m_ui->listWidget->addRow(item, row);
     m_rows.append(row);
     m_names->append(name);
     resizeItem(row);
@@ -143,19 +129,14 @@ void VelmoScenesTable::setSelectedScene(const QString &name)
 {
     clearSelection();
     if (VelmoSceneItem *row = findRow(name))
-        select(row);
+        m_ui->listWidget->select(row->getItem());
     else
         setDefaultSelection();
 }
 
 int VelmoScenesTable::getSelectedRow() const
 {
-    const QList<QListWidgetItem *> items = m_ui->listWidget->selectedItems();
-    for (const QListWidgetItem *item : items) {
-        if (rowOf(item))
-            return m_ui->listWidget->row(item);
-    }
-    return -1;
+    return m_ui->listWidget->selectedRow(m_rows.size());
 }
 
 void VelmoScenesTable::setSelectedRow(int row)
@@ -163,7 +144,7 @@ void VelmoScenesTable::setSelectedRow(int row)
     clearSelection();
     const int existing = std::min(row, getSceneCount() - 1);
     if (existing >= 0)
-        select(m_rows[existing]);
+        m_ui->listWidget->select(m_rows[existing]->getItem());
 }
 
 void VelmoScenesTable::setDefaultSelection()
@@ -172,7 +153,8 @@ void VelmoScenesTable::setDefaultSelection()
     if (m_rows.isEmpty())
         return;
     const auto chosen = std::find_if(m_rows.cbegin(), m_rows.cend(), std::mem_fn(&VelmoSceneItem::isAddEnabled));
-    select(chosen == m_rows.cend() ? m_rows.constFirst() : *chosen);
+    const VelmoSceneItem *row = chosen == m_rows.cend() ? m_rows.constFirst() : *chosen;
+    m_ui->listWidget->select(row->getItem());
 }
 
 void VelmoScenesTable::clearSelection()
@@ -213,14 +195,7 @@ void VelmoScenesTable::finishEditing()
 
 void VelmoScenesTable::listSelectionChanged()
 {
-    const QList<QListWidgetItem *> items = m_ui->listWidget->selectedItems();
-    const QSet<QListWidgetItem *> selected(items.cbegin(), items.cend());
-    // Restyling a row costs far more than looking at it.
-    for (VelmoSceneItem *row : std::as_const(m_rows)) {
-        const bool isSelected = selected.contains(row->getItem());
-        if (row->isSelected() != isSelected)
-            row->setSelected(isSelected);
-    }
+    m_ui->listWidget->showSelectionIn(m_rows);
     emit selectionChanged();
 }
 
@@ -234,15 +209,6 @@ void VelmoScenesTable::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     resize();
-}
-
-/// The middle of a list that has not been shown yet is not known.
-void VelmoScenesTable::showEvent(QShowEvent *event)
-{
-    QWidget::showEvent(event);
-    const int row = getSelectedRow();
-    if (std::exchange(m_centreWhenShown, false) && row >= 0)
-        m_ui->listWidget->scrollToItem(m_rows[row]->getItem(), QAbstractItemView::PositionAtCenter);
 }
 
 VelmoSceneItem *VelmoScenesTable::findRow(const QString &name) const
@@ -301,13 +267,6 @@ void VelmoScenesTable::addNewSceneItem()
     connect(button, &OvixSvgButton::clicked, this, &VelmoScenesTable::newScenePressed);
     m_newSceneItem->setSizeHint(QSize(0, button->height()));
     m_ui->listWidget->setRowWidget(m_newSceneItem, button);
-}
-
-void VelmoScenesTable::select(VelmoSceneItem *row)
-{
-    m_ui->listWidget->setCurrentItem(row->getItem());
-    m_ui->listWidget->scrollToItem(row->getItem(), QAbstractItemView::PositionAtCenter);
-    m_centreWhenShown = !isVisible();
 }
 
 void VelmoScenesTable::updateNameOf(QListWidgetItem *item)

@@ -89,7 +89,6 @@ protected:
     /// Gives every row the widths of the column titles.
     void resize();
     void resizeEvent(QResizeEvent *event) override;
-    void showEvent(QShowEvent *event) override;
 
 private:
     VelmoSceneItem *findRow(const QString &name) const;
@@ -98,7 +97,6 @@ private:
     void removeNewSceneItem();
     void fixNewSceneItem();
     void addNewSceneItem();
-    void select(VelmoSceneItem *row);
     void updateNameOf(QListWidgetItem *item);
 
     std::unique_ptr<Ui::VelmoScenesTable> m_ui;
@@ -107,5 +105,4 @@ private:
     QListWidgetItem *m_newSceneItem = nullptr;
     bool m_editingEnabled = true;
     bool m_multiSelectionEnabled = true;
-    bool m_centreWhenShown = false;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "choosers/ElidedText.h"
+#include "foundation/ElidedText.h"
 #include "foundation/KeyboardPress.h"
 #include "foundation/QClickableLabel.h"
 

@@ -1,7 +1,7 @@
 #include "choosers/oVIXButton.h"
 
 #include "choosers/AccessibleChoosers.h"
-#include "choosers/ElidedText.h"
+#include "foundation/ElidedText.h"
 #include "foundation/AccessibleWidgets.h"
 #include "foundation/KeyboardPress.h"
 #include "foundation/OvixSvgKey.h"

@@ -108,6 +108,14 @@ protected:
     void press() override { static_cast<QClickableWidget *>(widget())->click(); }
 };
 
+void announce(QWidget *widget, QAccessible::State changed)
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleStateChangeEvent event(widget, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
 template <class Interface> QAccessibleInterface *make(QWidget *widget)
 {
     return new Interface(widget);
@@ -136,10 +144,14 @@ void AccessibleWidgets::add(const char *className, Creator creator)
 
 void AccessibleWidgets::announceChecked(QWidget *widget)
 {
-    if (!QAccessible::isActive())
-        return;
     QAccessible::State changed;
     changed.checked = true;
-    QAccessibleStateChangeEvent event(widget, changed);
-    QAccessible::updateAccessibility(&event);
+    announce(widget, changed);
+}
+
+void AccessibleWidgets::announceExpanded(QWidget *widget)
+{
+    QAccessible::State changed;
+    changed.expanded = true;
+    announce(widget, changed);
 }

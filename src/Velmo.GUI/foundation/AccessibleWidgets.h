@@ -16,5 +16,7 @@ void add(const char *className, Creator create);
 
 /// Tells assistive tools that the widget's checked state has changed.
 void announceChecked(QWidget *widget);
+/// The same for what it expands.
+void announceExpanded(QWidget *widget);
 
 } // namespace AccessibleWidgets

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "VelmoGuiExport.h"
+
+#include <QString>
+#include <QWidget>
+
+#include <memory>
+
+namespace Ui {
+class VelmoCurtainWidget;
+}
+
+/// A section of a panel that can be collapsed: an arrow, a title and a subtitle above a container that the application
+/// fills, with a thin line below.
+///
+/// A click on the arrow shows or hides the container. Title and subtitle are plain text on one line and give way at the
+/// right. A focus policy given to the curtain is its arrow's: Space and Return then press it.
+class VELMO_GUI_EXPORT VelmoCurtainWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Expanded at first.
+    explicit VelmoCurtainWidget(QWidget *parent = nullptr);
+    ~VelmoCurtainWidget() override;
+
+    void setTitle(const QString &title);
+    QString getTitle() const;
+    void setSubtitle(const QString &subtitle);
+    QString getSubtitle() const;
+
+    /// Appends a widget to the container, which owns it from then on. Null, the curtain itself and what it stands in
+    /// are ignored.
+    void addToContainerWidget(QWidget *widget);
+
+    void setExpanded(bool expanded);
+    /// Whether the container is on view: a curtain that is hidden, or inside something hidden, counts as collapsed.
+    bool isExpanded() const;
+
+private slots:
+    void toggled();
+
+private:
+    std::unique_ptr<Ui::VelmoCurtainWidget> m_ui;
+};
