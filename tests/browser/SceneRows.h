@@ -7,13 +7,18 @@
 #include "browser/VelmoScenesTable.h"
 #include "foundation/OvixSvgButton.h"
 
+#include <QApplication>
+#include <QHelpEvent>
 #include <QLayout>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPointer>
 #include <QTest>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 
-/// What the tests of the scene list share: its parts by their names in the forms, and windows to show it in.
+/// What the tests of the scene list and the project list share: its parts by their names in the forms, and windows to
+/// show it in.
 namespace SceneRows {
 
 using namespace Qt::StringLiterals;
@@ -51,14 +56,25 @@ inline QByteArrayList methodsOf(const QObject &object)
     return methods;
 }
 
-inline QListWidget *listOf(const VelmoScenesTable &table)
+/// The words of the tool tip that a resting pointer brings up.
+inline QString toolTipOver(QWidget *widget)
+{
+    const QPoint point = widget->rect().center();
+    QHelpEvent help(QEvent::ToolTip, point, widget->mapToGlobal(point));
+    QApplication::sendEvent(widget, &help);
+    const QString text = QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText();
+    QToolTip::hideText();
+    return text;
+}
+
+inline QListWidget *listOf(const QWidget &table)
 {
     return part<QListWidget>(&table, "listWidget");
 }
 
-inline VelmoSceneItem *rowAt(const VelmoScenesTable &table, int row)
+template <class Row = VelmoSceneItem> Row *rowAt(const QWidget &table, int row)
 {
-    return qobject_cast<VelmoSceneItem *>(listOf(table)->itemWidget(listOf(table)->item(row)));
+    return qobject_cast<Row *>(listOf(table)->itemWidget(listOf(table)->item(row)));
 }
 
 /// The button of the last row, or null.

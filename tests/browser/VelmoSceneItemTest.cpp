@@ -5,10 +5,7 @@
 #include "foundation/QClickableLabel.h"
 
 #include <QAccessible>
-#include <QApplication>
-#include <QHelpEvent>
 #include <QSignalSpy>
-#include <QTextDocumentFragment>
 #include <QToolTip>
 
 #include <algorithm>
@@ -20,16 +17,6 @@ namespace {
 
 const char *const textLabels[] = {"nameLabel",     "lastModifiedLabel",  "bakeLabel",   "actorsLabel",
                                   "vehiclesLabel", "timeFramerateLabel", "versionLabel"};
-
-QString toolTipOver(QWidget *widget)
-{
-    const QPoint point = widget->rect().center();
-    QHelpEvent help(QEvent::ToolTip, point, widget->mapToGlobal(point));
-    QApplication::sendEvent(widget, &help);
-    const QString text = QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText();
-    QToolTip::hideText();
-    return text;
-}
 
 } // namespace
 

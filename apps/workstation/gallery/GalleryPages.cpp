@@ -1,6 +1,7 @@
 #include "gallery/GalleryPages.h"
 
 #include "gallery/ChoosersPage.h"
+#include "gallery/CurtainsPage.h"
 #include "gallery/DialogsPage.h"
 #include "gallery/DockingPage.h"
 #include "gallery/IconStatesPage.h"
@@ -10,6 +11,7 @@
 #include "gallery/OverlaysPage.h"
 #include "gallery/PieChartPage.h"
 #include "gallery/ProgressBarsPage.h"
+#include "gallery/ProjectListPage.h"
 #include "gallery/SceneListPage.h"
 #include "gallery/SlidersPage.h"
 #include "gallery/TagEditorPage.h"
@@ -39,7 +41,9 @@ QList<GalleryPages::Page> GalleryPages::all()
         {u"toggles"_s, TogglesPage::tr("Toggles"), [] { return new TogglesPage; }},
         {u"tags"_s, TagsPage::tr("Tags"), [] { return new TagsPage; }},
         {u"tag-editor"_s, TagEditorPage::tr("Tag editor"), [] { return new TagEditorPage; }},
+        {u"project-list"_s, ProjectListPage::tr("Project list"), [] { return new ProjectListPage; }},
         {u"scene-list"_s, SceneListPage::tr("Scene list"), [] { return new SceneListPage; }},
+        {u"curtains"_s, CurtainsPage::tr("Curtains"), [] { return new CurtainsPage; }},
     };
 }
 
