@@ -1,13 +1,13 @@
 #include "gallery/DialogsPage.h"
 
+#include "gallery/DialogSample.h"
 #include "gallery/SampleDialog.h"
 #include "oVIXWindowWait.h"
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <QLabel>
+#include <QPixmap>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -155,19 +155,7 @@ Sample DialogsPage::createSample(const QString &caption, const SetUp &setUp, con
     dialog.show();
     if (stage)
         stage(&dialog);
-
-    auto *sample = new QWidget;
-    auto *layout = new QVBoxLayout(sample);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(8);
-    auto *picture = new QLabel;
-    picture->setPixmap(dialog.grab());
-    layout->addWidget(createPlate(picture, Qt::black, 8));
-    auto *button = new QPushButton(tr("Open"));
-    button->setAccessibleName(tr("Open: %1").arg(caption));
-    connect(button, &QPushButton::clicked, this, [this, setUp] { open(setUp); });
-    layout->addWidget(button, 0, Qt::AlignCenter);
-    return {sample, caption};
+    return {createDialogSample(dialog.grab(), caption, [this, setUp] { open(setUp); }), caption};
 }
 
 void DialogsPage::open(const SetUp &setUp)

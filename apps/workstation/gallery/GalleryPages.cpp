@@ -1,7 +1,9 @@
 #include "gallery/GalleryPages.h"
 
+#include "gallery/AboutPage.h"
 #include "gallery/ChoosersPage.h"
 #include "gallery/CurtainsPage.h"
+#include "gallery/ConsentPage.h"
 #include "gallery/DialogsPage.h"
 #include "gallery/DockingPage.h"
 #include "gallery/IconStatesPage.h"
@@ -19,6 +21,7 @@
 #include "gallery/TimebarPage.h"
 #include "gallery/TitleBarsPage.h"
 #include "gallery/TogglesPage.h"
+#include "gallery/TourPage.h"
 
 using namespace Qt::StringLiterals;
 
@@ -32,6 +35,9 @@ QList<GalleryPages::Page> GalleryPages::all()
         {u"overlays"_s, OverlaysPage::tr("Overlays"), [] { return new OverlaysPage; }},
         {u"dialogs"_s, DialogsPage::tr("Dialogs"), [] { return new DialogsPage; }},
         {u"messages"_s, MessagesPage::tr("Messages"), [] { return new MessagesPage; }},
+        {u"tour"_s, TourPage::tr("Guided tour"), [] { return new TourPage; }},
+        {u"consent"_s, ConsentPage::tr("Feedback consent"), [] { return new ConsentPage; }},
+        {u"about"_s, AboutPage::tr("About"), [] { return new AboutPage; }},
         {u"choosers"_s, ChoosersPage::tr("Choosers"), [] { return new ChoosersPage; }},
         {u"docking"_s, DockingPage::tr("Docking"), [] { return new DockingPage; }},
         {u"sliders"_s, SlidersPage::tr("Sliders"), [] { return new SlidersPage; }},

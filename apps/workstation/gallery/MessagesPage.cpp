@@ -2,11 +2,11 @@
 
 #include "VelmoMessageBox.h"
 #include "VelmoYesNoWidget.h"
+#include "gallery/DialogSample.h"
 #include "oVIXDialogModalBase.h"
 
 #include <QLabel>
-#include <QPushButton>
-#include <QVBoxLayout>
+#include <QPixmap>
 
 using namespace Qt::StringLiterals;
 
@@ -146,7 +146,7 @@ void MessagesPage::addModal()
         shown->open();
     };
     addSection(tr("Modal base dialog"), tr("The right button of the real one quits the application."))
-        ->addRow({{createSample(dialog.grab(), caption, open), caption}});
+        ->addRow({{createDialogSample(dialog.grab(), caption, open), caption}});
 }
 
 /// The picture shows the box as it comes up.
@@ -163,21 +163,5 @@ Sample MessagesPage::createSample(const QString &caption, const QString &kind, c
         shown->startMinimumWaitTimer();
         shown->open();
     };
-    return {createSample(box.grab(), caption, open), caption};
-}
-
-QWidget *MessagesPage::createSample(const QPixmap &picture, const QString &caption, const std::function<void()> &open)
-{
-    auto *sample = new QWidget;
-    auto *layout = new QVBoxLayout(sample);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(8);
-    auto *label = new QLabel;
-    label->setPixmap(picture);
-    layout->addWidget(createPlate(label, Qt::black, 8));
-    auto *button = new QPushButton(tr("Open"));
-    button->setAccessibleName(tr("Open: %1").arg(caption));
-    connect(button, &QPushButton::clicked, this, open);
-    layout->addWidget(button, 0, Qt::AlignCenter);
-    return sample;
+    return {createDialogSample(box.grab(), caption, open), caption};
 }

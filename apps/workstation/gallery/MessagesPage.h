@@ -23,7 +23,6 @@ private:
     void addTexts();
     void addModal();
     Sample createSample(const QString &caption, const QString &kind, const QString &title, const SetUp &setUp);
-    QWidget *createSample(const QPixmap &picture, const QString &caption, const std::function<void()> &open);
 
     QString m_name;
 };

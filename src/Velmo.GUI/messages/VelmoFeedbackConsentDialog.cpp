@@ -191,11 +191,11 @@ void VelmoFeedbackConsentDialog::addOptions(QVBoxLayout *layout, const QString &
     auto *group = new QGroupBox(this);
     group->setAccessibleName(question);
     group->setStyleSheet(optionsSheet());
-    m_remindLater = createOption(tr("Remind me later"));
-    m_yes = createOption(tr("Yes, I am willing to participate and help improving %1").arg(product));
-    m_no = createOption(tr("No, I do not want to participate"));
+    m_remindLater = createOption(tr("Remind me later"), group);
+    m_yes = createOption(tr("Yes, I am willing to participate and help improving %1").arg(product), group);
+    m_no = createOption(tr("No, I do not want to participate"), group);
     auto *options = new QVBoxLayout(group);
-    options->setContentsMargins(0, 0, 0, 0);
+    options->setContentsMargins(0, 0, 0, optionSpacing);
     options->setSpacing(optionSpacing);
     for (QRadioButton *option : {m_remindLater, m_yes, m_no})
         options->addWidget(option);
@@ -218,9 +218,9 @@ void VelmoFeedbackConsentDialog::addFooter(QVBoxLayout *layout)
     layout->addLayout(row);
 }
 
-QRadioButton *VelmoFeedbackConsentDialog::createOption(const QString &text)
+QRadioButton *VelmoFeedbackConsentDialog::createOption(const QString &text, QWidget *group)
 {
-    auto *option = new QRadioButton(text, this);
+    auto *option = new QRadioButton(text, group);
     option->setStyleSheet(optionSheet());
     return option;
 }

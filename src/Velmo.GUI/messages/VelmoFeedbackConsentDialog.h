@@ -36,7 +36,7 @@ private:
     void addLine(QVBoxLayout *layout);
     void addOptions(QVBoxLayout *layout, const QString &question);
     void addFooter(QVBoxLayout *layout);
-    QRadioButton *createOption(const QString &text);
+    QRadioButton *createOption(const QString &text, QWidget *group);
 
     QRadioButton *m_remindLater = nullptr;
     QRadioButton *m_yes = nullptr;
