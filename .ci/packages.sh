@@ -3,7 +3,7 @@
 
 build_packages=(
     cmake ninja-build ccache g++
-    qt6-base-dev qt6-svg-dev
+    qt6-base-dev qt6-svg-dev qt6-l10n-tools
     fonts-inter
     libbenchmark-dev
 )

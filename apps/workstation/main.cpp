@@ -2,6 +2,7 @@
 #include "gallery/GalleryPages.h"
 #include "gallery/GalleryWindow.h"
 #include "look/ApplicationLook.h"
+#include "look/Wording.h"
 #include "oVIXStyle.h"
 #include "scenes/ShippedProjects.h"
 #include "shots/Shots.h"
@@ -117,6 +118,8 @@ int main(int argc, char **argv)
         application = std::make_unique<QApplication>(argc, argv);
         QGuiApplication::setApplicationDisplayName(CommandLine::tr("Velmo Workstation"));
         ApplicationLook::install();
+        if (!Wording::install())
+            std::fprintf(stderr, "The wording of some texts is missing.\n");
         if (const QString problem = ApplicationLook::problem(); !problem.isEmpty())
             std::fprintf(stderr, "%s\n", qPrintable(problem));
     } else {

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -94,6 +95,41 @@ private slots:
             QVERIFY(!text.isEmpty());
     }
 
+    void clonesAreWholeAndNeverReplaceAFile()
+    {
+        const QByteArray content = QByteArray("line\n").repeated(500000); // more than one block
+        write(u"Hall.vscene"_s, content);
+        write(u"HALL COPY.vscene"_s, "mine");
+        const ProjectFolder::Change change = project().cloneScene({u"Hall"_s, path(u"Hall.vscene"_s)});
+        QCOMPARE(change.problem, QString());
+        QCOMPARE(change.scene.name, u"Hall copy 2"_s);
+        QCOMPARE(read(u"Hall copy 2.vscene"_s), content);
+        QCOMPARE(read(u"HALL COPY.vscene"_s), "mine");
+
+        const QString longName(246, u'x');
+        write(longName + u".vscene"_s, "");
+        QVERIFY(!project().cloneScene({longName, path(longName + u".vscene"_s)}).problem.isEmpty());
+        QVERIFY(!project().cloneScene({u"gone"_s, path(u"gone.vscene"_s)}).problem.isEmpty());
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 4);
+    }
+
+    void deletedScenesAreInTheTrash()
+    {
+        QTemporaryDir data;
+        qputenv("XDG_DATA_HOME", data.path().toLocal8Bit());
+        const auto restore = qScopeGuard([] { qunsetenv("XDG_DATA_HOME"); });
+        write(u"Hall.vscene"_s, "hall");
+        const SceneFile scene{u"Hall"_s, path(u"Hall.vscene"_s)};
+        QCOMPARE(project().deleteScene(scene).problem, QString());
+        QVERIFY(!QFile::exists(scene.path));
+#ifdef Q_OS_LINUX
+        QFile trashed(data.filePath(u"Trash/files/Hall.vscene"_s));
+        QVERIFY(trashed.open(QIODevice::ReadOnly));
+        QCOMPARE(trashed.readAll(), "hall");
+#endif
+        QVERIFY(!project().deleteScene(scene).problem.isEmpty());
+    }
+
     void refusesWhatAnySystemRefuses()
     {
         for (const QString &name : {u"Platform 2 (evening)"_s, u"v2.1"_s, u"Überführung"_s, u"  leading"_s,
@@ -126,8 +162,14 @@ private slots:
     }
 
 private:
-    ProjectFolder project() const { return ProjectFolder(m_folder->path()); }
-    QString path(const QString &fileName) const { return QDir(m_folder->path()).filePath(fileName); }
+    ProjectFolder project() const
+    {
+        return ProjectFolder(m_folder->path());
+    }
+    QString path(const QString &fileName) const
+    {
+        return QDir(m_folder->path()).filePath(fileName);
+    }
 
     void write(const QString &fileName, const QByteArray &content) const
     {

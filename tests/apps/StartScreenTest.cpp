@@ -1,6 +1,8 @@
 #include "support/Gestures.h"
 #include "support/TestCase.h"
 
+#include "BoxAnswer.h"
+
 #include "VelmoSceneItem.h"
 #include "VelmoScenesTable.h"
 #include "start/StartScreen.h"
@@ -9,9 +11,11 @@
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextBrowser>
 
 using namespace Qt::StringLiterals;
 
@@ -96,6 +100,68 @@ private slots:
         QCOMPARE(table()->getSelectedScene(), u"Track"_s);
     }
 
+    void renamesInABox()
+    {
+        const auto type = [](VelmoMessageWidget *box) {
+            auto *line = box->findChild<QLineEdit *>(u"lnEdit"_s);
+            QCOMPARE(line->text(), u"Gate"_s);
+            line->setText(u"Exit"_s);
+        };
+        answerNextBox([type](VelmoMessageWidget *box) {
+            type(box);
+            box->fnReject();
+        });
+        m_screen->renameSelectedScene();
+        QVERIFY(QFile::exists(path(u"Airport/Gate.vscene"_s)));
+        answerNextBox([type](VelmoMessageWidget *box) {
+            type(box);
+            QTest::keyClick(box, Qt::Key_Return);
+        });
+        m_screen->renameSelectedScene();
+        QVERIFY(!QFile::exists(path(u"Airport/Gate.vscene"_s)) && QFile::exists(path(u"Airport/Exit.vscene"_s)));
+        QVERIFY(table()->hasScene(u"Exit"_s));
+    }
+
+    void deletesAfterAsking()
+    {
+        QTemporaryDir data;
+        qputenv("XDG_DATA_HOME", data.path().toLocal8Bit());
+        const auto restore = qScopeGuard([] { qunsetenv("XDG_DATA_HOME"); });
+        write(u"Airport/A &amp; b.vscene"_s, goodScene);
+        m_screen->selectProject(1);
+        m_screen->selectProject(0);
+        QTRY_VERIFY(!m_screen->isReading());
+        QCOMPARE(table()->getSelectedScene(), u"A &amp; b"_s);
+        answerNextBox([](VelmoMessageWidget *box) {
+            const QString text = box->findChild<QTextBrowser *>(u"textBrowser"_s)->toPlainText();
+            QVERIFY2(text.contains(u"A &amp; b"_s), qPrintable(text));
+            QTest::keyClick(box, Qt::Key_Escape);
+        });
+        m_screen->deleteSelectedScene();
+        QVERIFY(QFile::exists(path(u"Airport/A &amp; b.vscene"_s)));
+
+        answerNextBox([](VelmoMessageWidget *box) { box->fnAccept(); });
+        m_screen->deleteSelectedScene();
+        QVERIFY(!QFile::exists(path(u"Airport/A &amp; b.vscene"_s)));
+        QTRY_VERIFY(!m_screen->isReading());
+        QCOMPARE(table()->getSelectedScene(), u"Gate"_s);
+        QVERIFY2(status()->text().contains(u"A &amp; b"_s), qPrintable(status()->text()));
+
+        // The file goes while the question is up.
+        QString problem;
+        answerNextBox([&problem, this](VelmoMessageWidget *box) {
+            QVERIFY(QFile::remove(path(u"Airport/Gate.vscene"_s)));
+            answerNextBox([&problem](VelmoMessageWidget *report) {
+                problem = report->findChild<QTextBrowser *>(u"textBrowser"_s)->toPlainText();
+                report->fnAccept();
+            });
+            box->fnAccept();
+        });
+        m_screen->deleteSelectedScene();
+        QVERIFY2(problem.contains(u"Gate"_s), qPrintable(problem));
+        QCOMPARE(sceneNames(), QStringList({u"Broken"_s, u"Gate"_s, u"Hall"_s}));
+    }
+
     void addsAndSelectsANewScene()
     {
         for (const QString &name : {u"New scene"_s, u"New scene 2"_s}) {
@@ -106,6 +172,9 @@ private slots:
             QVERIFY2(status()->text().contains(name), qPrintable(status()->text()));
         }
         QCOMPARE(sceneNames().size(), 5);
+        m_screen->cloneSelectedScene();
+        QTRY_VERIFY(!m_screen->isReading());
+        QCOMPARE(table()->getSelectedScene(), u"New scene 2 copy"_s);
 
         QVERIFY(m_screen->canOpen());
         QVERIFY(QDir(m_folder->path()).mkdir(u"Empty"_s));

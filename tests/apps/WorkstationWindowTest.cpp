@@ -1,9 +1,13 @@
 #include "support/Gestures.h"
 #include "support/TestCase.h"
 
+#include "BoxAnswer.h"
+
 #include "OvixSvgButton.h"
+#include "VelmoDropData.h"
 #include "oVIXButton.h"
 #include "oVIXCombo.h"
+#include "oVIXDragDropTags.h"
 #include "oVIXGrip.h"
 #include "oVIXSliderWidget.h"
 #include "oVIXTimebarWidget.h"
@@ -11,17 +15,21 @@
 #include "panels/CrowdEditor.h"
 #include "panels/LibraryPanel.h"
 #include "panels/ParametersPanel.h"
+#include "panels/TagsPanel.h"
 #include "start/StartScreen.h"
 #include "start/StatusLine.h"
 #include "window/SceneFactsDialog.h"
 #include "window/ScenePage.h"
 #include "window/SceneView.h"
+#include "window/WelcomeDialog.h"
 #include "window/WorkstationWindow.h"
 
 #include <QDir>
 #include <QFile>
 #include <QListView>
 #include <QMenuBar>
+#include <QMimeData>
+#include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -202,6 +210,100 @@ private slots:
         crowd->findChild<oVIXButton *>()->click();
         m_window->closeScene();
         QVERIFY(!page->bake().isRunning());
+    }
+
+    void asksBeforeItReplacesABake()
+    {
+        write(u"Walk"_s, "<timeline frames=\"8\" fps=\"100\"/><actors><actor/></actors>");
+        m_window->openScene(path(u"Walk"_s));
+        QTRY_VERIFY(m_window->showsScene());
+        ScenePage *page = m_window->scenePage();
+        page->toggleBaking(); // nothing to be replaced
+        QTRY_VERIFY(!page->bake().isRunning());
+        answerNextBox([](VelmoMessageWidget *box) {
+            QVERIFY(!box->findChild<oVIXButton *>(u"lbDont"_s)->isEnabled()); // time to think
+            box->fnReject();
+        });
+        page->toggleBaking();
+        QVERIFY(!page->bake().isRunning() && !page->isPlaying());
+        answerNextBox([](VelmoMessageWidget *box) { box->fnOther(); });
+        page->toggleBaking();
+        QVERIFY(!page->bake().isRunning() && page->isPlaying());
+        QCOMPARE(page->bake().computedFrames(), 8);
+        answerNextBox([](VelmoMessageWidget *box) { box->fnAccept(); });
+        QSignalSpy baking(page, &ScenePage::bakingChanged);
+        page->toggleBaking();
+        QTRY_COMPARE(baking.size(), 2);
+        QVERIFY(!page->isPlaying());
+
+        answerNextBox([this](VelmoMessageWidget *) { m_window.reset(); }); // and the window goes meanwhile
+        page->toggleBaking();
+    }
+
+    void tagsAreKeptWithTheScene()
+    {
+        write(u"Square"_s,
+              "<tags><tag id=\"1\" name=\"vip\" color=\"#ff0000\"/><tag id=\"2\" name=\"staff\"/></tags>"
+              "<actors><actor tags=\"1\"/><actor/></actors>");
+        m_window->openScene(path(u"Square"_s));
+        QTRY_VERIFY(m_window->showsScene());
+        TagsPanel *panel = m_window->tagsPanel();
+        const SceneView *view = m_window->scenePage()->view();
+        auto *editor = panel->findChild<oVIXDragDropTags *>();
+        const auto shown = [editor] {
+            return editor->getLeftTags().join(u',') + u'|' + editor->getRightTags().join(u',');
+        };
+        QCOMPARE(shown(), u"vip,|staff,"_s); // the add tags are without a text
+        editor->fnRightMove(0);
+        QTRY_COMPARE(view->scene().people[1].tags, QList<int>{2});
+        editor->fnLeftMove(1);
+        QTRY_VERIFY(!view->scene().colourOf(view->scene().people[0]).isValid());
+        editor->fnRightAddNewItem(u"Staff"_s); // which the other side has
+        QTRY_COMPARE(shown(), u"staff,|vip,"_s);
+        editor->fnRightAddNewItem(u"late"_s);
+        answerNextBox([](VelmoMessageWidget *box) { box->fnAccept(); });
+        editor->fnRightChange(1);
+        QTRY_COMPARE(shown(), u"staff,|late,"_s);
+        QTRY_COMPARE(view->scene().people[0].tags, QList<int>{2});
+
+        const Scene scene = m_window->scenePage()->scene();
+        TagsPanel again(m_window.get());
+        again.setScene(scene);
+        QCOMPARE(again.findChild<oVIXDragDropTags *>()->getLeftTags(), editor->getLeftTags());
+        QCOMPARE(again.findChild<oVIXDragDropTags *>()->getRightTags(), editor->getRightTags());
+    }
+
+    void aDroppedTagIsFilteredBy()
+    {
+        write(u"Square"_s, "<tags><tag id=\"7\" name=\"vip\"/></tags><actors><actor tags=\"7\"/></actors>");
+        m_window->openScene(path(u"Square"_s));
+        QTRY_VERIFY(m_window->showsScene());
+        TagsPanel *panel = m_window->tagsPanel();
+        const SceneView *view = m_window->scenePage()->view();
+        auto *combo = panel->findChild<oVIXCombo *>();
+        const auto drop = [combo](const QString &name, VelmoDropData::Type type) {
+            const std::unique_ptr<QMimeData> data(VelmoDropData({{name, {}}}, type).getMimeData());
+            emit combo->dropped(data.get(), nullptr);
+        };
+        drop(u"vip"_s, VelmoDropData::Categories);
+        drop(u"nobody's"_s, VelmoDropData::Tags);
+        QCOMPARE(view->options().highlightedTag, QString());
+        drop(u"vip"_s, VelmoDropData::Tags);
+        QCOMPARE(combo->getCurrentComboText(), u"vip"_s);
+        QCOMPARE(view->options().highlightedTag, u"vip"_s);
+        m_window->scenePage()->setTags({}, {});
+        panel->setScene(m_window->scenePage()->scene());
+        QCOMPARE(view->options().highlightedTag, QString());
+    }
+
+    void theWelcomePageExits()
+    {
+        action(u"Welcome"_s)->trigger();
+        const QPointer<WelcomeDialog> dialog = m_window->findChild<WelcomeDialog *>();
+        QTRY_VERIFY(dialog && dialog->isVisible());
+        dialog->findChild<QPushButton *>(u"exitButton"_s)->click();
+        QVERIFY(!m_window->isVisible());
+        QTRY_VERIFY(!dialog);
     }
 
     void viewAndParametersKeepOneZoom()

@@ -17,6 +17,7 @@ namespace {
 
 constexpr auto newSceneTime = "00:00:00 | 25"_L1;
 constexpr auto newSceneBakeStatus = "Not baked"_L1;
+constexpr qint64 blockSize = 1 << 20;
 
 bool comesBefore(const QString &left, const QString &right)
 {
@@ -104,9 +105,49 @@ ProjectFolder::Change ProjectFolder::renameScene(const SceneFile &scene, const Q
 
 ProjectFolder::Change ProjectFolder::addScene() const
 {
+    return makeScene(tr("New scene"), [](QIODevice &file) {
+        writeEmptyScene(file);
+        return true;
+    });
+}
+
+ProjectFolder::Change ProjectFolder::cloneScene(const SceneFile &scene) const
+{
+    QFile original(scene.path);
+    if (!original.open(QIODevice::ReadOnly))
+        return {scene, tr("The scene cannot be read: %1").arg(original.errorString())};
+    Change change = makeScene(tr("%1 copy").arg(scene.name), [&original](QIODevice &file) {
+        while (true) {
+            const QByteArray block = original.read(blockSize);
+            if (block.isEmpty())
+                return original.error() == QFileDevice::NoError;
+            if (file.write(block) != block.size())
+                return false;
+        }
+    });
+    if (original.error() != QFileDevice::NoError)
+        change.problem = tr("The scene cannot be read: %1").arg(original.errorString());
+    return change;
+}
+
+ProjectFolder::Change ProjectFolder::deleteScene(const SceneFile &scene) const
+{
+    if (!QFileInfo(scene.path).isFile())
+        return {scene, tr("There is no file of \"%1\" any more.").arg(scene.name)};
+    QFile file(scene.path);
+    if (!file.moveToTrash())
+        return {scene, tr("\"%1\" cannot be moved to the trash: %2").arg(scene.name, file.errorString())};
+    return {scene, {}};
+}
+
+ProjectFolder::Change ProjectFolder::makeScene(const QString &baseName,
+                                               const std::function<bool(QIODevice &)> &write) const
+{
     const QString name = SceneNames::firstFree(
-        tr("New scene"), [this](const QString &candidate) { return isTaken(candidate + SceneFile::ending()); });
+        baseName, [this](const QString &candidate) { return isTaken(candidate + SceneFile::ending()); });
     const SceneFile scene{name, QDir(m_path).filePath(name + SceneFile::ending())};
+    if (const QString problem = SceneNames::problem(name); !problem.isEmpty())
+        return {scene, problem};
 
     // Whoever makes a file of this name first has it; only then is it safe to write over the file.
     QFile claim(scene.path);
@@ -116,7 +157,8 @@ ProjectFolder::Change ProjectFolder::addScene() const
 
     QSaveFile file(scene.path);
     if (file.open(QIODevice::WriteOnly)) {
-        writeEmptyScene(file);
+        if (!write(file))
+            file.cancelWriting();
         if (file.commit())
             return {scene, {}};
     }

@@ -5,6 +5,10 @@
 #include <QCoreApplication>
 #include <QList>
 
+#include <functional>
+
+class QIODevice;
+
 /// One project on disk: a folder of scene files. Reads the folder anew on every call and keeps nothing.
 ///
 /// No operation ever replaces a file. Names count as equal whatever their case, also where the file system would keep
@@ -37,8 +41,14 @@ public:
     Change renameScene(const SceneFile &scene, const QString &newName) const;
     /// Writes a new, empty scene under a name that is still free.
     Change addScene() const;
+    /// Writes a copy of the scene's file under a name that is still free.
+    Change cloneScene(const SceneFile &scene) const;
+    /// Moves the scene's file to the trash; where there is no trash, it stays.
+    Change deleteScene(const SceneFile &scene) const;
 
 private:
+    /// Makes a scene of the first free name like @p baseName; @p write says whether it has written all.
+    Change makeScene(const QString &baseName, const std::function<bool(QIODevice &)> &write) const;
     bool isTaken(const QString &fileName, const QString &exceptFileName = QString()) const;
 
     QString m_path;

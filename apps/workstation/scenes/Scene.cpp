@@ -6,7 +6,7 @@ QColor Scene::colourOf(const SceneMover &mover) const
 {
     for (const int id : mover.tags) {
         for (const SceneTag &tag : tags) {
-            if (tag.id == id)
+            if (tag.id == id && tag.isAssigned)
                 return tag.colour;
         }
     }

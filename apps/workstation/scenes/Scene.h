@@ -13,6 +13,8 @@ struct SceneTag
     int id = 0;
     QString name;
     QColor colour;
+    /// Tags that are set aside do not count for those who have them.
+    bool isAssigned = true;
 };
 
 /// Somebody or something that moves. Lengths are metres, speeds metres a second, headings degrees from the x axis.
@@ -49,7 +51,7 @@ struct Scene
     QList<SceneMover> people;
     QList<SceneMover> vehicles;
 
-    /// The colour of the mover's first known tag; invalid without one.
+    /// The colour of the mover's first known tag that is assigned; invalid without one.
     QColor colourOf(const SceneMover &mover) const;
     /// The ground, or what lies around everything where the file does not tell its size.
     QRectF bounds() const;

@@ -1,5 +1,7 @@
 #include "scenes/SceneContentReader.h"
 
+#include "scenes/SceneTags.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -41,6 +43,7 @@ bool SceneContentReader::read(const QString &path, Scene *scene)
         return refuse(tr("\"%1\" is damaged in line %2: %3")
                           .arg(scene->name, QString::number(m_xml.lineNumber()), m_xml.errorString()));
     }
+    SceneTags::setAsideUnused(scene);
     return true;
 }
 
@@ -105,7 +108,8 @@ void SceneContentReader::readMover(QList<SceneMover> *movers)
     SceneMover mover;
     mover.name = text("name"_L1);
     mover.type = text("type"_L1);
-    const QStringList tags = text("tags"_L1).split(u',', Qt::SkipEmptyParts);
+    // Older releases separate them by commas.
+    const QStringList tags = text("tags"_L1).replace(u',', u' ').split(u' ', Qt::SkipEmptyParts);
     for (const QString &tag : tags)
         mover.tags << tag.toInt();
     while (!m_cancelled && m_xml.readNextStartElement()) {

@@ -4,12 +4,14 @@
 #include "look/ElidedLabel.h"
 #include "look/Sheets.h"
 #include "start/HeaderBar.h"
+#include "start/SceneQuestions.h"
 #include "start/StatusLine.h"
 
 #include <QDir>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStackedWidget>
@@ -106,9 +108,44 @@ bool StartScreen::canOpen() const
 
 void StartScreen::openSelectedScene()
 {
-    const int row = m_table->getSelectedRow();
-    if (row >= 0 && row < m_scenes.size())
-        emit openRequested(m_scenes[row].file.path);
+    const SceneFile scene = selectedScene();
+    if (!scene.path.isEmpty())
+        emit openRequested(scene.path);
+}
+
+void StartScreen::renameSelectedScene()
+{
+    const SceneFile scene = selectedScene();
+    const QPointer<StartScreen> self(this);
+    const QString newName = scene.path.isEmpty() ? QString() : SceneQuestions::askNewName(scene.name, window());
+    if (self && !newName.isEmpty())
+        renameScene(scene.name, newName);
+}
+
+void StartScreen::cloneSelectedScene()
+{
+    const SceneFile scene = selectedScene();
+    if (!scene.path.isEmpty())
+        showAdded(m_project.cloneScene(scene));
+}
+
+void StartScreen::deleteSelectedScene()
+{
+    const SceneFile scene = selectedScene();
+    const ProjectFolder project = m_project;
+    const QPointer<StartScreen> self(this);
+    if (scene.path.isEmpty() || !SceneQuestions::confirmDeleting(scene.name, window()) || !self)
+        return;
+    const ProjectFolder::Change change = project.deleteScene(scene);
+    if (!change.problem.isEmpty()) {
+        SceneQuestions::report(tr("Delete scene"), change.problem, window());
+        return;
+    }
+    if (project.path() != m_project.path())
+        return;
+    m_noteWhenRead = tr("\"%1\" is in the trash.").arg(scene.name);
+    m_sceneWhenRead = neighbourOf(scene);
+    readScenes();
 }
 
 void StartScreen::showProblem(const QString &text)
@@ -254,7 +291,11 @@ void StartScreen::renameScene(const QString &oldName, const QString &newName)
 
 void StartScreen::addScene()
 {
-    const ProjectFolder::Change change = m_project.addScene();
+    showAdded(m_project.addScene());
+}
+
+void StartScreen::showAdded(const ProjectFolder::Change &change)
+{
     if (!change.problem.isEmpty()) {
         m_status->showProblem(change.problem);
         return;
@@ -262,6 +303,27 @@ void StartScreen::addScene()
     m_sceneWhenRead = change.scene.name;
     m_noteWhenRead = tr("\"%1\" has been added.").arg(change.scene.name);
     m_reader->readAlso(change.scene);
+}
+
+SceneFile StartScreen::selectedScene() const
+{
+    const int row = m_table->getSelectedRow();
+    return row >= 0 && row < m_scenes.size() ? m_scenes[row].file : SceneFile();
+}
+
+QString StartScreen::neighbourOf(const SceneFile &scene) const
+{
+    QString before;
+    bool passed = false;
+    for (const SceneFacts &facts : m_scenes) {
+        if (facts.file.path == scene.path)
+            passed = true;
+        else if (facts.readable && passed)
+            return facts.file.name;
+        else if (facts.readable)
+            before = facts.file.name;
+    }
+    return before;
 }
 
 void StartScreen::updateOpening()

@@ -36,6 +36,11 @@ public:
     bool canOpen() const;
     /// Asks for the selected scene to be opened.
     void openSelectedScene();
+    /// Asks in a box for another name of the selected scene. Nothing without one, as for the next two.
+    void renameSelectedScene();
+    void cloneSelectedScene();
+    /// Moves the selected scene to the trash, if the user agrees.
+    void deleteSelectedScene();
     /// Says what has gone wrong.
     void showProblem(const QString &text);
 
@@ -56,6 +61,10 @@ private:
     void finishReading();
     void renameScene(const QString &oldName, const QString &newName);
     void addScene();
+    void showAdded(const ProjectFolder::Change &change);
+    SceneFile selectedScene() const;
+    /// The name of the scene to select when this one is gone: the next that can be selected, else the one before.
+    QString neighbourOf(const SceneFile &scene) const;
     void updateOpening();
     QString summary() const;
 

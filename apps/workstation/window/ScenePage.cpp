@@ -1,16 +1,19 @@
 #include "window/ScenePage.h"
 
 #include "look/Sheets.h"
+#include "scenes/SceneTags.h"
 #include "simulation/Crowd.h"
 #include "start/StatusLine.h"
 #include "window/SceneView.h"
 
 #include <OvixSvgButton.h>
+#include <VelmoMessageBox.h>
 #include <oVIXFloatingProgressBar.h>
 #include <oVIXTimebarWidget.h>
 #include <oVIXToggle.h>
 
 #include <QHBoxLayout>
+#include <QPointer>
 
 #include <algorithm>
 #include <chrono>
@@ -25,6 +28,7 @@ constexpr qint64 mostPositions = 20'000'000; // of all people in all frames, to 
 constexpr int trailFrames = 50;
 constexpr int trailStep = 2;
 constexpr auto bakeShown = 40ms;
+constexpr int secondsToThink = 3;
 constexpr QSize playSize(32, 32);
 
 int framesFor(const Scene &scene, int people)
@@ -101,6 +105,12 @@ void ScenePage::setCrowd(const CrowdSettings &settings)
     showCrowd();
 }
 
+void ScenePage::setTags(const QStringList &assigned, const QStringList &available)
+{
+    SceneTags::arrange(&m_scene, assigned, available);
+    m_view->setTags(m_scene);
+}
+
 void ScenePage::showCrowd()
 {
     setPlaying(false);
@@ -126,6 +136,8 @@ void ScenePage::toggleBaking()
         m_bake.stop();
         return;
     }
+    if (m_bake.computedFrames() > 0 && !askToReplaceFrames())
+        return;
     setPlaying(false);
     m_bake.start(m_scene, m_settings, framesFor(m_scene, m_settings.count), m_scene.framesPerSecond);
     setFrames(m_bake.frameCount());
@@ -138,6 +150,22 @@ void ScenePage::toggleBaking()
     m_facts->showNote(tr("Baking %1 frames of %2 people")
                           .arg(QString::number(m_bake.frameCount()), QString::number(m_settings.count)));
     emit bakingChanged(true);
+}
+
+bool ScenePage::askToReplaceFrames()
+{
+    setPlaying(false);
+    const QPointer<ScenePage> self(this);
+    const QString question = tr("%1 of %2 frames are baked.<br>Baking again replaces them.")
+                                 .arg(QString::number(m_bake.computedFrames()), QString::number(m_bake.frameCount()));
+    const VelmoMsgReturnCode answer =
+        VelmoCustomThreeOptionMessage(tr("QUESTION"), tr("Replace existing bake"), question, tr("Replace"),
+                                      tr("Keep and play"), false, secondsToThink, window(), nullptr);
+    if (!self)
+        return false;
+    if (answer == MsgOther)
+        setPlaying(true);
+    return answer == MsgAccepted && !m_bake.isRunning();
 }
 
 void ScenePage::stopBaking()

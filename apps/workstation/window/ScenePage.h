@@ -29,7 +29,10 @@ public:
     /// Shows the crowd that these settings make of the scene. What has been baked is forgotten, unless they are the
     /// same as before.
     void setCrowd(const CrowdSettings &settings);
-    /// Bakes the crowd, or stops baking. Frames can be played while others are being baked.
+    /// Changes the scene's tags; what has been baked stays.
+    void setTags(const QStringList &assigned, const QStringList &available);
+    /// Bakes the crowd, or stops baking. Frames can be played while others are being baked. Frames that are there are
+    /// replaced only after the user has been asked.
     void toggleBaking();
     /// Ends what runs in the background.
     void stopBaking();
@@ -51,6 +54,8 @@ private:
     void showCrowd();
     /// The crop stays, as far as there are frames.
     void setFrames(int frames);
+    /// Whether frames may be replaced. The page may be gone afterwards, and then they may not.
+    bool askToReplaceFrames();
     void showBaked();
     void showFrame(int frame);
     void playNext();

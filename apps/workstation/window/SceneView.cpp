@@ -90,6 +90,17 @@ void SceneView::setPositions(const QList<QPointF> &positions, const QList<QList<
     update();
 }
 
+void SceneView::setTags(const Scene &scene)
+{
+    m_scene.tags = scene.tags;
+    for (qsizetype i = 0; i < m_scene.people.size() && !scene.people.isEmpty(); ++i)
+        m_scene.people[i].tags = scene.people[i % scene.people.size()].tags;
+    for (qsizetype i = 0; i < std::min(m_scene.vehicles.size(), scene.vehicles.size()); ++i)
+        m_scene.vehicles[i].tags = scene.vehicles[i].tags;
+    decideColours();
+    update();
+}
+
 const Scene &SceneView::scene() const
 {
     return m_scene;
@@ -190,6 +201,11 @@ void SceneView::decideColours()
             colour = Palette::accent;
         m_peopleColours << colour;
     }
+    m_highlightedTags.clear();
+    for (const SceneTag &tag : std::as_const(m_scene.tags)) {
+        if (tag.isAssigned && tag.name == m_options.highlightedTag)
+            m_highlightedTags << tag.id;
+    }
 }
 
 void SceneView::drawVehicles(QPainter &painter, const QTransform &transform) const
@@ -249,9 +265,16 @@ void SceneView::drawDensity(QPainter &painter, const QTransform &transform) cons
     }
 }
 
+bool SceneView::isBright(const SceneMover &mover) const
+{
+    const bool hasTag =
+        std::any_of(mover.tags.cbegin(), mover.tags.cend(), [this](int id) { return m_highlightedTags.contains(id); });
+    return (m_options.highlightedType.isEmpty() || mover.type == m_options.highlightedType)
+        && (m_options.highlightedTag.isEmpty() || hasTag);
+}
+
 void SceneView::chooseColour(QPainter &painter, const SceneMover &mover, const QColor &colour) const
 {
-    const bool bright = m_options.highlightedType.isEmpty() || mover.type == m_options.highlightedType;
-    painter.setOpacity(bright ? 1.0 : dimmed);
+    painter.setOpacity(isBright(mover) ? 1.0 : dimmed);
     painter.setBrush(colour);
 }

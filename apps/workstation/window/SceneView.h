@@ -22,6 +22,10 @@ public:
     /// Where they are now, and where they were before, the latest first.
     void setPositions(const QList<QPointF> &positions, const QList<QList<QPointF>> &trail = {});
 
+    /// Takes over the tags of @p scene and of its people and vehicles; everybody stays where they are. People beyond
+    /// the scene's own have the tags of those they were copied from.
+    void setTags(const Scene &scene);
+
     void setOptions(const ViewOptions &options);
     const ViewOptions &options() const;
 
@@ -43,12 +47,14 @@ private:
     void drawPeople(QPainter &painter, const QTransform &transform) const;
     void drawTrails(QPainter &painter, const QTransform &transform) const;
     void drawDensity(QPainter &painter, const QTransform &transform) const;
-    /// Takes the mover's colour, dimmed unless its type is highlighted.
+    bool isBright(const SceneMover &mover) const;
+    /// Takes the mover's colour, dimmed unless it is highlighted.
     void chooseColour(QPainter &painter, const SceneMover &mover, const QColor &colour) const;
 
     Scene m_scene;
     ViewOptions m_options;
     QList<QColor> m_peopleColours;
+    QList<int> m_highlightedTags; // ids
     QList<QList<QPointF>> m_trail;
     QList<QPointF> m_goals;
     QRectF m_bounds = m_scene.bounds(); // people may leave them

@@ -18,6 +18,8 @@ struct ViewOptions
     double zoom = 1.0;
     /// Only movers of this type are bright; everyone when empty.
     QString highlightedType;
+    /// Only movers with this tag are bright; everyone when empty.
+    QString highlightedTag;
 
     static constexpr double smallestZoom = 0.25;
     static constexpr double largestZoom = 16.0;

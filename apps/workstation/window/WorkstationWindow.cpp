@@ -3,10 +3,12 @@
 #include "panels/CrowdEditor.h"
 #include "panels/LibraryPanel.h"
 #include "panels/ParametersPanel.h"
+#include "panels/TagsPanel.h"
 #include "start/StartScreen.h"
 #include "window/SceneFactsDialog.h"
 #include "window/ScenePage.h"
 #include "window/SceneView.h"
+#include "window/WelcomeDialog.h"
 
 #include <oVIXMinMaxCloseWidget.h>
 #include <oVIXTitleBar.h>
@@ -41,7 +43,8 @@ static void useResources()
 
 WorkstationWindow::WorkstationWindow(const QString &projectsFolder, QSettings *settings)
     : m_pages(new QStackedWidget(this)), m_startScreen(new StartScreen(projectsFolder, m_pages)),
-      m_scenePage(new ScenePage(m_pages)), m_settings(settings), m_loading(getWindowWait(), getWindowWait())
+      m_scenePage(new ScenePage(m_pages)), m_projectsFolder(projectsFolder), m_settings(settings),
+      m_loading(getWindowWait(), getWindowWait())
 {
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     setWindowTitle(QGuiApplication::applicationDisplayName());
@@ -86,6 +89,11 @@ ParametersPanel *WorkstationWindow::parametersPanel() const
     return m_parameters;
 }
 
+TagsPanel *WorkstationWindow::tagsPanel() const
+{
+    return m_tags;
+}
+
 bool WorkstationWindow::showsScene() const
 {
     return m_pages->currentWidget() == m_scenePage;
@@ -127,6 +135,11 @@ void WorkstationWindow::showSceneFacts()
         (new SceneFactsDialog(m_scenePage->scene(), this))->open();
 }
 
+void WorkstationWindow::showWelcome()
+{
+    (new WelcomeDialog(m_projectsFolder, this))->open();
+}
+
 void WorkstationWindow::changeEvent(QEvent *event)
 {
     oVIXMainWindow::changeEvent(event);
@@ -162,6 +175,12 @@ void WorkstationWindow::createMenus()
     m_closeSceneAction =
         scene->addAction(tr("Back to projects"), QKeySequence::Close, this, &WorkstationWindow::closeScene);
     scene->addSeparator();
+    m_fileActions = {
+        scene->addAction(tr("Rename"), tr("F2"), m_startScreen, &StartScreen::renameSelectedScene),
+        scene->addAction(tr("Clone"), tr("Ctrl+D"), m_startScreen, &StartScreen::cloneSelectedScene),
+        scene->addAction(tr("Delete"), QKeySequence::Delete, m_startScreen, &StartScreen::deleteSelectedScene),
+    };
+    scene->addSeparator();
     scene->addAction(tr("Quit"), tr("Ctrl+Q"), this, &QWidget::close);
 
     QMenu *window = menuBar()->addMenu(tr("Window"));
@@ -170,6 +189,9 @@ void WorkstationWindow::createMenus()
     window->addSeparator();
     for (QDockWidget *panel : panels())
         window->addAction(panel->toggleViewAction());
+
+    QMenu *help = menuBar()->addMenu(tr("Help"));
+    help->addAction(tr("Welcome"), QKeySequence::HelpContents, this, &WorkstationWindow::showWelcome);
 }
 
 void WorkstationWindow::createTitleBar()
@@ -186,8 +208,10 @@ void WorkstationWindow::createPanels()
 {
     m_library = new LibraryPanel(this);
     m_parameters = new ParametersPanel(this);
+    m_tags = new TagsPanel(this);
     addDockWidget(Qt::LeftDockWidgetArea, m_library);
     addDockWidget(Qt::RightDockWidgetArea, m_parameters);
+    addDockWidget(Qt::LeftDockWidgetArea, m_tags);
     m_panelState = saveState();
     for (QDockWidget *panel : panels())
         panel->hide();
@@ -200,10 +224,21 @@ void WorkstationWindow::createPanels()
     });
     connect(m_parameters, &ParametersPanel::optionsChanged, this, [view](ViewOptions options) {
         options.highlightedType = view->options().highlightedType;
+        options.highlightedTag = view->options().highlightedTag;
         options.mode = view->options().mode;
         view->setOptions(options);
     });
     connect(view, &SceneView::zoomChanged, m_parameters, &ParametersPanel::setZoom);
+
+    connect(m_tags, &TagsPanel::filterChanged, this, [view](const QString &tag) {
+        ViewOptions options = view->options();
+        options.highlightedTag = tag;
+        view->setOptions(options);
+    });
+    connect(m_tags, &TagsPanel::tagsEdited, this, [this](const QStringList &assigned, const QStringList &available) {
+        m_scenePage->setTags(assigned, available);
+        m_tags->setScene(m_scenePage->scene());
+    });
 
     CrowdEditor *crowd = m_parameters->crowd();
     connect(crowd, &CrowdEditor::edited, this, [this, crowd] { m_scenePage->setCrowd(crowd->settings()); });
@@ -223,7 +258,7 @@ void WorkstationWindow::showPage(QWidget *page)
 
 QList<QDockWidget *> WorkstationWindow::panels() const
 {
-    return {m_library, m_parameters};
+    return {m_library, m_parameters, m_tags};
 }
 
 void WorkstationWindow::hidePanels()
@@ -270,6 +305,7 @@ void WorkstationWindow::toggleMaximized()
 void WorkstationWindow::showScene(const Scene &scene)
 {
     m_library->setScene(scene);
+    m_tags->setScene(scene);
     m_parameters->crowd()->setScene(scene);
     m_scenePage->setScene(scene, m_parameters->crowd()->settings());
     showPage(m_scenePage);
@@ -296,6 +332,8 @@ void WorkstationWindow::updateActions()
 {
     const bool ready = !isLoading();
     m_openAction->setEnabled(ready && !showsScene() && m_startScreen->canOpen());
+    for (QAction *action : std::as_const(m_fileActions))
+        action->setEnabled(m_openAction->isEnabled());
     m_closeSceneAction->setEnabled(ready && showsScene());
     m_factsAction->setEnabled(ready && showsScene());
     for (QDockWidget *panel : panels())

@@ -14,6 +14,7 @@ class QSettings;
 class QStackedWidget;
 class ScenePage;
 class StartScreen;
+class TagsPanel;
 class oVIXTitleBar;
 
 /// The application's window: frameless, with the menu bar as its title bar, the start screen, and the page of the open
@@ -32,6 +33,7 @@ public:
     ScenePage *scenePage() const;
     LibraryPanel *libraryPanel() const;
     ParametersPanel *parametersPanel() const;
+    TagsPanel *tagsPanel() const;
     bool showsScene() const;
     bool isLoading() const;
 
@@ -41,6 +43,7 @@ public:
     void closeScene();
     /// Opens the dialog about the open scene.
     void showSceneFacts();
+    void showWelcome();
 
 signals:
     /// The load that `openScene` has begun is over, for good or bad.
@@ -72,12 +75,16 @@ private:
     StartScreen *m_startScreen;
     ScenePage *m_scenePage;
     oVIXTitleBar *m_titleBar = nullptr;
+    QString m_projectsFolder;
     QAction *m_openAction = nullptr;
+    /// What is done to the file of the selected scene.
+    QList<QAction *> m_fileActions;
     QAction *m_closeSceneAction = nullptr;
     QAction *m_factsAction = nullptr;
     QAction *m_maximizeAction = nullptr;
     LibraryPanel *m_library = nullptr;
     ParametersPanel *m_parameters = nullptr;
+    TagsPanel *m_tags = nullptr;
     QSettings *m_settings;
     /// Where the panels are while a scene is open.
     QByteArray m_panelState;

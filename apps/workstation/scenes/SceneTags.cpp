@@ -1,0 +1,128 @@
+#include "scenes/SceneTags.h"
+
+#include "scenes/Scene.h"
+
+#include <QSet>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr std::array newTagColours{QColor(116, 211, 252), QColor(249, 199, 26), QColor(227, 155, 214),
+                                   QColor(0, 158, 115), QColor(213, 94, 0)};
+
+QStringList namesOf(const Scene &scene, bool assigned)
+{
+    QStringList names;
+    for (const SceneTag &tag : scene.tags) {
+        if (tag.isAssigned == assigned && !tag.name.trimmed().isEmpty())
+            names << tag.name;
+    }
+    names.removeDuplicates();
+    return names;
+}
+
+/// The ids that somebody has.
+QSet<int> usedIds(const Scene &scene)
+{
+    QSet<int> used;
+    for (const QList<SceneMover> *movers : {&scene.people, &scene.vehicles}) {
+        for (const SceneMover &mover : *movers) {
+            for (const int id : mover.tags)
+                used.insert(id);
+        }
+    }
+    return used;
+}
+
+int freeId(const Scene &scene)
+{
+    const QSet<int> used = usedIds(scene);
+    const auto isTaken = [&](int id) {
+        return used.contains(id)
+            || std::any_of(scene.tags.cbegin(), scene.tags.cend(), [id](const SceneTag &tag) { return tag.id == id; });
+    };
+    int id = 1;
+    while (isTaken(id))
+        ++id;
+    return id;
+}
+
+void removeOthers(Scene *scene, const QStringList &names)
+{
+    QSet<int> removed;
+    QSet<int> kept;
+    for (const SceneTag &tag : std::as_const(scene->tags))
+        (tag.name.trimmed().isEmpty() || names.contains(tag.name) ? kept : removed).insert(tag.id);
+    removed.subtract(kept); // a broken file may use one id twice
+    const auto isRemoved = [&removed](int id) { return removed.contains(id); };
+    scene->tags.removeIf(
+        [&](const SceneTag &tag) { return !tag.name.trimmed().isEmpty() && !names.contains(tag.name); });
+    if (removed.isEmpty())
+        return;
+    for (QList<SceneMover> *movers : {&scene->people, &scene->vehicles}) {
+        for (SceneMover &mover : *movers)
+            mover.tags.removeIf(isRemoved);
+    }
+}
+
+/// The tag's name as the scene has it, after making the tag if there is none.
+QString settledName(Scene *scene, const QString &name)
+{
+    QString similar;
+    for (const SceneTag &tag : std::as_const(scene->tags)) {
+        if (tag.name == name)
+            return name;
+        if (similar.isEmpty() && tag.name.compare(name, Qt::CaseInsensitive) == 0)
+            similar = tag.name;
+    }
+    if (!similar.isEmpty())
+        return similar;
+    const QColor colour = newTagColours[size_t(scene->tags.size()) % newTagColours.size()];
+    scene->tags.append({freeId(*scene), name, colour, false});
+    return name;
+}
+
+} // namespace
+
+QStringList SceneTags::assigned(const Scene &scene)
+{
+    return namesOf(scene, true);
+}
+
+QStringList SceneTags::available(const Scene &scene)
+{
+    return namesOf(scene, false);
+}
+
+void SceneTags::setAsideUnused(Scene *scene)
+{
+    const QSet<int> used = usedIds(*scene);
+    for (SceneTag &tag : scene->tags)
+        tag.isAssigned = used.contains(tag.id);
+}
+
+void SceneTags::arrange(Scene *scene, const QStringList &assigned, const QStringList &available)
+{
+    removeOthers(scene, assigned + available);
+    QSet<QString> wanted;
+    for (const QString &name : assigned) {
+        if (!name.trimmed().isEmpty())
+            wanted.insert(settledName(scene, name));
+    }
+    for (const QString &name : available) {
+        if (!name.trimmed().isEmpty())
+            settledName(scene, name);
+    }
+
+    const QSet<int> used = usedIds(*scene);
+    for (SceneTag &tag : scene->tags) {
+        if (tag.name.trimmed().isEmpty())
+            continue;
+        const bool isNew = !tag.isAssigned && wanted.contains(tag.name) && !used.contains(tag.id);
+        tag.isAssigned = wanted.contains(tag.name);
+        for (qsizetype i = 0; isNew && i < scene->people.size(); ++i)
+            scene->people[i].tags << tag.id;
+    }
+}

@@ -1,0 +1,24 @@
+#include "start/SceneQuestions.h"
+
+#include <VelmoMessageBox.h>
+
+#include <QTextDocument>
+
+bool SceneQuestions::confirmDeleting(const QString &name, QWidget *parent)
+{
+    const QString question = tr("Do you want to move the scene <b>%1</b> to the trash?").arg(name.toHtmlEscaped());
+    return VelmoQuestionMessage(tr("Delete scene"), question, parent, nullptr) == MsgAccepted;
+}
+
+QString SceneQuestions::askNewName(const QString &name, QWidget *parent)
+{
+    QString newName = name;
+    const bool accepted =
+        VelmoEditMessage(tr("RENAME"), tr("New name of the scene"), &newName, parent, nullptr) == MsgAccepted;
+    return accepted && newName != name ? newName : QString();
+}
+
+void SceneQuestions::report(const QString &title, const QString &problem, QWidget *parent)
+{
+    VelmoWarningMessage(title, Qt::convertFromPlainText(problem), 0, parent, nullptr);
+}

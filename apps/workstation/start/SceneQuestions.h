@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QCoreApplication>
+
+class QString;
+class QWidget;
+
+/// The boxes about scene files. Each runs until it is answered; @p parent may be gone afterwards. Names are shown as
+/// they are.
+class SceneQuestions
+{
+    Q_DECLARE_TR_FUNCTIONS(SceneQuestions)
+
+public:
+    /// Whether the scene is to go to the trash.
+    static bool confirmDeleting(const QString &name, QWidget *parent);
+    /// The new name, or an empty text when there is to be none.
+    static QString askNewName(const QString &name, QWidget *parent);
+    static void report(const QString &title, const QString &problem, QWidget *parent);
+};
