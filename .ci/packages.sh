@@ -5,6 +5,7 @@ build_packages=(
     cmake ninja-build ccache g++
     qt6-base-dev qt6-svg-dev qt6-l10n-tools
     fonts-inter
+    webp qt6-image-formats-plugins
     libbenchmark-dev
 )
 # The Windows services are cross-compiled and run under Wine; gestures on real windows want a window manager.

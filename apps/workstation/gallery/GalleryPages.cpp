@@ -4,6 +4,9 @@
 #include "gallery/ChoosersPage.h"
 #include "gallery/CurtainsPage.h"
 #include "gallery/ConsentPage.h"
+#include "gallery/AnimatedPicturesPage.h"
+#include "gallery/ChoosersPage.h"
+#include "gallery/CursorsPage.h"
 #include "gallery/DialogsPage.h"
 #include "gallery/DockingPage.h"
 #include "gallery/IconStatesPage.h"
@@ -31,6 +34,9 @@ QList<GalleryPages::Page> GalleryPages::all()
         {u"icons"_s, IconsPage::tr("Icons"), [] { return new IconsPage; }},
         {u"icon-states"_s, IconStatesPage::tr("Icon states"), [] { return new IconStatesPage; }},
         {u"labels-and-buttons"_s, LabelsPage::tr("Labels and buttons"), [] { return new LabelsPage; }},
+        {u"animated-pictures"_s, AnimatedPicturesPage::tr("Animated pictures"),
+         [] { return new AnimatedPicturesPage; }},
+        {u"cursors"_s, CursorsPage::tr("Cursors"), [] { return new CursorsPage; }},
         {u"title-bars"_s, TitleBarsPage::tr("Title bars"), [] { return new TitleBarsPage; }},
         {u"overlays"_s, OverlaysPage::tr("Overlays"), [] { return new OverlaysPage; }},
         {u"dialogs"_s, DialogsPage::tr("Dialogs"), [] { return new DialogsPage; }},
