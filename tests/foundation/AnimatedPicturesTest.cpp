@@ -164,9 +164,10 @@ private slots:
         QAnimatedLabel hidden;
         QAnimatedLabel clock;
         for (QAnimatedLabel *label : {&hidden, &clock})
-            label->setStacksAndSlices(sheetOf(8, 8), 8, 8, 0);
+            label->setStacksAndSlices(sheetOf(2, 100), 2, 100, 0);
         Gestures::show(&clock);
-        QSignalSpy updated(&hidden, &QAnimatedLabel::frameUpdated);
+        QStringList shown;
+        connect(&hidden, &QAnimatedLabel::frameUpdated, this, [&] { shown << shownFrame(hidden); });
         QSignalSpy ticked(&clock, &QAnimatedLabel::frameUpdated);
         hidden.setSpeed(50);
         clock.setSpeed(50);
@@ -174,11 +175,10 @@ private slots:
         clock.play(1);
         QVERIFY(hidden.isPlaying());
         QTRY_VERIFY(ticked.size() > 5);
-        QCOMPARE(updated.size(), 1);
-        QCOMPARE(shownFrame(hidden), u"0,0"_s);
+        QCOMPARE(shown, QStringList(u"0,0"_s));
         Gestures::show(&hidden);
-        QTRY_COMPARE(updated.size(), 2);
-        QVERIFY(shownFrame(hidden) != u"1,0"_s);
+        QTRY_VERIFY(shown.size() > 1);
+        QVERIFY2(shown[1].section(u',', 0, 0).toInt() >= 5 || shown[1].endsWith(u",1"_s), qPrintable(shown[1]));
         hidden.hide();
         QVERIFY(hidden.isPlaying());
     }
@@ -217,7 +217,7 @@ private slots:
         QTRY_VERIFY(!player);
     }
 
-    void playsAStillPictureOverAndOver()
+    void showsAStillPictureOnce()
     {
         QAnimatedWebp player;
         QSignalSpy changed(&player, &QAnimatedWebp::frameChanged);
@@ -225,24 +225,12 @@ private slots:
         player.start();
         QCOMPARE(changed.size(), 0);
         QVERIFY(!player.hasImage());
-        // Without any delay it leaves the event loop its turns.
-        for (int turns = 0; changed.size() < 20; ++turns) {
-            const qsizetype before = changed.size();
-            QCoreApplication::processEvents();
-            QVERIFY(changed.size() <= before + 1 && turns < 100000);
-        }
-        QCOMPARE(changed.last().at(0).toInt(), 0);
-
+        QVERIFY(changed.wait());
+        QVERIFY(Events::untilIdle());
+        QCOMPARE(changed.size(), 1);
+        QVERIFY(player.hasImage() && player.hasStarted());
         player.setFileName(stillPicture());
         QVERIFY(!player.hasImage() && !player.hasStarted());
-        changed.clear();
-        player.setMinDelayMs(20);
-        player.start();
-        QVERIFY(changed.wait());
-        QElapsedTimer time;
-        time.start();
-        QTRY_COMPARE(changed.size(), 6);
-        QVERIFY2(time.elapsed() >= 90, qPrintable(QString::number(time.elapsed())));
     }
 
     void stopsQuietlyWhereThereIsNothingToPlay()

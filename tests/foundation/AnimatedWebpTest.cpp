@@ -87,6 +87,36 @@ private slots:
         QCOMPARE(changed.last().at(0).toInt(), shown + 1);
     }
 
+    void framesWithoutDelayLeaveTheEventLoopItsTurns()
+    {
+        QByteArray bytes = animationBytes();
+        for (qsizetype frame = 0; (frame = bytes.indexOf("ANMF", frame + 1)) > 0;)
+            bytes.replace(frame + 20, 3, QByteArray(3, '\0'));
+        QAnimatedWebp player;
+        QSignalSpy changed(&player, &QAnimatedWebp::frameChanged);
+        player.setFileName(m_drawings.file(bytes, u".webp"_s));
+        player.start();
+        QCOMPARE(changed.size(), 0);
+        int turns = 0;
+        connect(&player, &QAnimatedWebp::frameChanged, this, [this, &turns] {
+            QMetaObject::invokeMethod(
+                this, [&turns] { ++turns; }, Qt::QueuedConnection);
+        });
+        QTRY_VERIFY(changed.size() >= 20);
+        player.stop();
+        QVERIFY2(turns >= changed.size() - 1, qPrintable(QString::number(turns)));
+
+        player.setMinDelayMs(20);
+        player.start();
+        QVERIFY(changed.wait());
+        const qsizetype first = changed.size();
+        tick(player); // makes up for the break
+        QElapsedTimer time;
+        time.start();
+        QTRY_VERIFY(changed.size() >= first + 6);
+        QVERIFY2(time.elapsed() >= 5 * 20 - 10, qPrintable(QString::number(time.elapsed())));
+    }
+
     void stopsQuietlyAtTheFirstBrokenFrame()
     {
         const QByteArray whole = animationBytes();

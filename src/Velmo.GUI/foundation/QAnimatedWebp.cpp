@@ -66,9 +66,12 @@ void QAnimatedWebp::frameTimerTriggered()
 {
     if (!m_started)
         return;
-    // The reader complains aloud about a file without a name. It counts -1 frames in what it cannot read.
+    // The reader complains aloud about a file without a name. It counts none or -1 in what it cannot read, and none
+    // left in some still pictures once they are read.
     const int count = isValid() ? m_reader.imageCount() : 0;
-    m_current = count > 0 ? (m_current + 1) % count : -1;
+    if (count <= 0)
+        return;
+    m_current = (m_current + 1) % count;
     decodeUpToCurrent();
 
     const int interval = m_frameTimer.interval();

@@ -19,7 +19,7 @@
 ///
 /// Every format that the toolkit's image reader knows can be played. WebP needs the reader's plug-in; without it, with
 /// a file that is missing, cut off or no picture, or with a broken frame, the playback stops there without a word.
-/// A picture that does not move is an animation of one frame without delay.
+/// A picture that does not move comes once and stays; in a format for animations it is one of a single frame.
 ///
 /// GUI thread only.
 class VELMO_GUI_EXPORT QAnimatedWebp : public QObject
