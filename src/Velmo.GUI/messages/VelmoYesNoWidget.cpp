@@ -67,6 +67,9 @@ VelmoYesNoWidget::VelmoYesNoWidget(QWidget *parent)
     m_ui->cancelLabel->paintEventUpdate(); // or its first paint would show the sheet of the buttons
     setCaptionColor(QColor(22, 129, 189));
     setCaptionTextColor(Qt::white);
+    // Even one that leads nowhere would take its key from whoever has the focus.
+    for (QShortcut *shortcut : {m_returnShortcut, m_enterShortcut, m_escapeShortcut})
+        shortcut->setEnabled(false);
 
     connect(m_ui->okButton, &QClickableLabel::clicked, this, &VelmoYesNoWidget::acceptTriggered);
     connect(m_ui->cancelButton, &QClickableLabel::clicked, this, &VelmoYesNoWidget::reject);
@@ -143,6 +146,8 @@ bool VelmoYesNoWidget::getEnableOkButton() const
 void VelmoYesNoWidget::enableKeyboardShorcuts()
 {
     disableKeyboardShorcuts();
+    for (QShortcut *shortcut : {m_returnShortcut, m_enterShortcut, m_escapeShortcut})
+        shortcut->setEnabled(true);
     connect(m_returnShortcut, &QShortcut::activated, m_ui->okButton, &QClickableLabel::clicked);
     connect(m_enterShortcut, &QShortcut::activated, m_ui->okButton, &QClickableLabel::clicked);
     connect(m_escapeShortcut, &QShortcut::activated, m_ui->cancelButton, &QClickableLabel::clicked);
