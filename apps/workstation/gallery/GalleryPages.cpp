@@ -17,6 +17,7 @@
 #include "gallery/PieChartPage.h"
 #include "gallery/ProgressBarsPage.h"
 #include "gallery/ProjectListPage.h"
+#include "gallery/ProjectScenesPage.h"
 #include "gallery/SceneListPage.h"
 #include "gallery/SlidersPage.h"
 #include "gallery/TagEditorPage.h"
@@ -56,6 +57,7 @@ QList<GalleryPages::Page> GalleryPages::all()
         {u"project-list"_s, ProjectListPage::tr("Project list"), [] { return new ProjectListPage; }},
         {u"scene-list"_s, SceneListPage::tr("Scene list"), [] { return new SceneListPage; }},
         {u"curtains"_s, CurtainsPage::tr("Curtains"), [] { return new CurtainsPage; }},
+        {u"project-scenes"_s, ProjectScenesPage::tr("Project scenes"), [] { return new ProjectScenesPage; }},
     };
 }
 
