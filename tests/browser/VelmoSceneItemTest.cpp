@@ -280,9 +280,10 @@ private slots:
         QVERIFY(actions->actionNames().contains(press) && actions->actionNames().contains(toggle));
         QVERIFY(spoken->state().selectable && spoken->state().checkable);
         QVERIFY(!spoken->state().selected && !spoken->state().checked);
-        spoken = QAccessible::queryAccessibleInterface(part(row, "addButton"));
-        QCOMPARE(spoken->text(QAccessible::Name), u"Choose scene"_s);
-        spoken = QAccessible::queryAccessibleInterface(row);
+        QAccessibleInterface *box = QAccessible::queryAccessibleInterface(part(row, "addButton"));
+        QCOMPARE(box->role(), QAccessible::CheckBox);
+        QCOMPARE(box->text(QAccessible::Name), u"Choose scene"_s);
+        QVERIFY(box->state().checkable && !box->state().checked);
 
         VelmoSceneItem lone(nullptr);
         QAccessible::queryAccessibleInterface(&lone)->actionInterface()->doAction(press);
@@ -290,7 +291,11 @@ private slots:
         QCOMPARE(list.selectedItems(), QList{list.item(1)});
         row->setSelected(true);
         actions->doAction(toggle);
-        QVERIFY(spoken->state().selected && spoken->state().checked);
+        QVERIFY(spoken->state().selected && spoken->state().checked && box->state().checked);
+        QCOMPARE(list.item(1)->data(Qt::AccessibleDescriptionRole).toString(), u"Chosen"_s);
+        box->actionInterface()->doAction(press);
+        QVERIFY(!row->isAddEnabled() && !box->state().checked);
+        QCOMPARE(list.item(1)->data(Qt::AccessibleDescriptionRole).toString(), QString());
 
         row->setAddVisible(false);
         QVERIFY(!spoken->state().checkable && !actions->actionNames().contains(toggle));
@@ -301,7 +306,7 @@ private slots:
         QVERIFY(spoken->state().disabled && !spoken->state().selectable);
         actions->doAction(toggle);
         actions->doAction(press);
-        QCOMPARE(changed.count(), 1);
+        QCOMPARE(changed.count(), 2);
         QVERIFY(list.selectedItems().isEmpty());
     }
 

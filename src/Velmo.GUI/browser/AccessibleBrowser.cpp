@@ -1,6 +1,7 @@
 #include "browser/AccessibleBrowser.h"
 
 #include "browser/CurtainArrow.h"
+#include "browser/SceneToggle.h"
 #include "browser/VelmoCurtainWidget.h"
 #include "browser/VelmoProjectItem.h"
 #include "browser/VelmoSceneItem.h"
@@ -69,6 +70,32 @@ private:
     bool isToggleable() const { return row()->isEnabled() && row()->isAddVisible(); }
 };
 
+class AccessibleSceneToggle : public AccessiblePressable
+{
+public:
+    explicit AccessibleSceneToggle(QWidget *widget) : AccessiblePressable(widget, QAccessible::CheckBox) { }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = AccessiblePressable::state();
+        state.checkable = true;
+        state.checked = row()->isAddEnabled();
+        return state;
+    }
+
+protected:
+    /// Toggles have accessible names.
+    QString purpose() const override { return {}; }
+    void press() override { static_cast<SceneToggle *>(widget())->click(); }
+
+private:
+    /// The toggle stands in the row's background.
+    const VelmoSceneItem *row() const
+    {
+        return static_cast<VelmoSceneItem *>(widget()->parentWidget()->parentWidget());
+    }
+};
+
 class AccessibleCurtainArrow : public AccessiblePressable
 {
 public:
@@ -85,10 +112,9 @@ public:
 
 protected:
     QString purpose() const override { return curtain()->getTitle(); }
-    void press() override { arrow()->click(); }
+    void press() override { static_cast<CurtainArrow *>(widget())->click(); }
 
 private:
-    CurtainArrow *arrow() const { return static_cast<CurtainArrow *>(widget()); }
     /// The arrow stands in the curtain's header.
     VelmoCurtainWidget *curtain() const
     {
@@ -108,6 +134,7 @@ void AccessibleBrowser::install()
     static const bool added = [] {
         AccessibleWidgets::add("VelmoProjectItem", make<AccessibleRow<VelmoProjectItem>>);
         AccessibleWidgets::add("VelmoSceneItem", make<AccessibleSceneItem>);
+        AccessibleWidgets::add("SceneToggle", make<AccessibleSceneToggle>);
         AccessibleWidgets::add("CurtainArrow", make<AccessibleCurtainArrow>);
         return true;
     }();

@@ -117,8 +117,12 @@ void VelmoSceneItem::setAddEnabled(bool enabled)
     const bool changed = m_addEnabled != enabled;
     m_addEnabled = enabled;
     updateStyle();
-    if (changed)
-        AccessibleWidgets::announceChecked(this);
+    if (!changed)
+        return;
+    if (m_item)
+        m_item->setData(Qt::AccessibleDescriptionRole, enabled ? tr("Chosen") : QString());
+    AccessibleWidgets::announceChecked(this);
+    AccessibleWidgets::announceChecked(m_ui->addButton);
 }
 
 bool VelmoSceneItem::isAddEnabled() const
@@ -181,9 +185,7 @@ void VelmoSceneItem::finishEditing()
 
 void VelmoSceneItem::addTriggered()
 {
-    m_addEnabled = !m_addEnabled;
-    updateStyle();
-    AccessibleWidgets::announceChecked(this);
+    setAddEnabled(!m_addEnabled);
     emit addChanged();
 }
 
@@ -200,12 +202,10 @@ void VelmoSceneItem::renameTriggered()
 
 void VelmoSceneItem::doubleClickNameTriggered()
 {
-    if (!m_selected)
-        return;
-    if (m_editingEnabled)
+    if (m_selected && m_editingEnabled)
         renameTriggered();
-    else if (isAddVisible())
-        addTriggered();
+    else
+        doubleClickOtherTriggered();
 }
 
 void VelmoSceneItem::doubleClickOtherTriggered()

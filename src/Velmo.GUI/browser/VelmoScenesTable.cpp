@@ -217,13 +217,6 @@ VelmoSceneItem *VelmoScenesTable::findRow(const QString &name) const
     return row < 0 ? nullptr : m_rows[row];
 }
 
-/// The scene rows are the list's first rows.
-VelmoSceneItem *VelmoScenesTable::rowOf(const QListWidgetItem *item) const
-{
-    const int row = m_ui->listWidget->row(item);
-    return row >= 0 && row < m_rows.size() ? m_rows[row] : nullptr;
-}
-
 void VelmoScenesTable::resizeItem(VelmoSceneItem *row) const
 {
     row->setWidths(m_ui->statusLabel->width(), m_ui->lastModifiedLabel->width(), m_ui->bakeLabel->width(),
@@ -269,8 +262,10 @@ void VelmoScenesTable::addNewSceneItem()
     m_ui->listWidget->setRowWidget(m_newSceneItem, button);
 }
 
+/// The scene rows are the list's first rows.
 void VelmoScenesTable::updateNameOf(QListWidgetItem *item)
 {
-    if (const VelmoSceneItem *row = rowOf(item))
-        m_names->rename(m_ui->listWidget->row(item), row->getName());
+    const int row = m_ui->listWidget->row(item);
+    if (row >= 0 && row < m_rows.size())
+        m_names->rename(row, m_rows[row]->getName());
 }

@@ -92,7 +92,6 @@ protected:
 
 private:
     VelmoSceneItem *findRow(const QString &name) const;
-    VelmoSceneItem *rowOf(const QListWidgetItem *item) const;
     void resizeItem(VelmoSceneItem *row) const;
     void removeNewSceneItem();
     void fixNewSceneItem();
