@@ -17,6 +17,9 @@
 #include <QTextDocumentFragment>
 #include <QToolTip>
 
+#include <memory>
+#include <vector>
+
 /// What the tests of the scene list and the project list share: its parts by their names in the forms, and windows to
 /// show it in.
 namespace SceneRows {
@@ -76,6 +79,41 @@ template <class Row = VelmoSceneItem> Row *rowAt(const QWidget &table, int row)
 {
     return qobject_cast<Row *>(listOf(table)->itemWidget(listOf(table)->item(row)));
 }
+
+/// Whether a row stands in the middle of its list, give or take a row.
+inline bool isCentred(const QWidget &table, int row)
+{
+    const QListWidget *list = listOf(table);
+    const QRect place = list->visualItemRect(list->item(row));
+    return qAbs(place.center().y() - list->viewport()->rect().center().y()) <= place.height();
+}
+
+/// Tells which rows have been restyled since it was last asked.
+class Restyles
+{
+public:
+    explicit Restyles(const QWidget &table)
+    {
+        const QListWidget *list = listOf(table);
+        for (int row = 0; row < list->count(); ++row) {
+            if (QWidget *background = part(list->itemWidget(list->item(row)), "backgroundWidget"))
+                m_counts.push_back(std::make_unique<Events::Count>(background, QEvent::StyleChange));
+        }
+    }
+
+    QList<int> taken()
+    {
+        QList<int> rows;
+        for (int row = 0; row < int(m_counts.size()); ++row) {
+            if (m_counts[row]->taken() > 0)
+                rows << row;
+        }
+        return rows;
+    }
+
+private:
+    std::vector<std::unique_ptr<Events::Count>> m_counts;
+};
 
 /// The button of the last row, or null.
 inline OvixSvgButton *newSceneButton(const VelmoScenesTable &table)

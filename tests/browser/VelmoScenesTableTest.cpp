@@ -6,8 +6,6 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 
-#include <memory>
-
 using namespace SceneRows;
 
 namespace {
@@ -94,28 +92,23 @@ private slots:
     {
         ShownTable shown;
         fill(*shown.table, 60);
-        const QListWidget *list = listOf(*shown.table);
-        const auto isCentred = [&](int row) {
-            const int middle = list->visualItemRect(list->item(row)).center().y();
-            return qAbs(middle - list->viewport()->rect().center().y()) <= 25;
-        };
         // At once, before the rows have found their places, and later.
         shown.table->setSelectedRow(30);
-        QVERIFY(isCentred(30));
+        QVERIFY(isCentred(*shown.table, 30));
         QVERIFY(Events::untilIdle());
-        QVERIFY(isCentred(30));
+        QVERIFY(isCentred(*shown.table, 30));
         shown.table->setSelectedScene(u"SCENE 40"_s);
-        QVERIFY(isCentred(40));
+        QVERIFY(isCentred(*shown.table, 40));
         shown.table->setSceneEnabled(u"scene 20"_s, true);
         shown.table->setDefaultSelection();
-        QVERIFY(isCentred(20));
+        QVERIFY(isCentred(*shown.table, 20));
 
         // A list that is hidden gets its size when it is shown.
         shown.window.hide();
         shown.table->setSelectedRow(40);
         shown.table->resize(760, 200);
         shown.window.show();
-        QTRY_VERIFY(isCentred(40));
+        QTRY_VERIFY(isCentred(*shown.table, 40));
     }
 
     void switchesModes()
@@ -212,27 +205,16 @@ private slots:
     {
         VelmoScenesTable table;
         fill(table, 100);
-        std::vector<std::unique_ptr<Events::Count>> restyles;
-        for (int row = 0; row < 100; ++row)
-            restyles.push_back(
-                std::make_unique<Events::Count>(part(rowAt(table, row), "backgroundWidget"), QEvent::StyleChange));
-        const auto restyled = [&] {
-            QList<int> rows;
-            for (int row = 0; row < 100; ++row) {
-                if (restyles[row]->taken() > 0)
-                    rows << row;
-            }
-            return rows;
-        };
+        Restyles restyled(table);
         table.setSelectedRow(5);
-        QCOMPARE(restyled(), QList{5});
+        QCOMPARE(restyled.taken(), QList{5});
         table.setSelectedScene(u"scene 70"_s);
-        QCOMPARE(restyled(), QList({5, 70}));
+        QCOMPARE(restyled.taken(), QList({5, 70}));
         table.setSceneEnabled(u"scene 70"_s, true);
-        QCOMPARE(restyled(), QList{70});
+        QCOMPARE(restyled.taken(), QList{70});
         table.clearSelection(); // a chosen row looks selected anyway
         table.setSceneEnabled(u"scene 6"_s, false);
-        QCOMPARE(restyled(), QList<int>());
+        QCOMPARE(restyled.taken(), QList<int>());
     }
 
     void asksForANewName()
