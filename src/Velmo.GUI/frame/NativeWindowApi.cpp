@@ -5,7 +5,7 @@
 NativeWindowApi::NativeWindowApi()
     : isKeyDown(NativeWindowBackend::isKeyDown), foregroundWindow(NativeWindowBackend::foregroundWindow),
       monitorRectOfWindow(NativeWindowBackend::monitorRectOfWindow),
-      setDarkTitleBar(NativeWindowBackend::setDarkTitleBar)
+      setDarkTitleBar(NativeWindowBackend::setDarkTitleBar), areAnimationsOn(NativeWindowBackend::areAnimationsOn)
 { }
 
 NativeWindowApi &NativeWindowApi::instance()

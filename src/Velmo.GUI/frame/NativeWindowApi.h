@@ -30,6 +30,8 @@ public:
     /// Gives the system's own title bar of a window the dark look. The caller knows the system's version: before
     /// Windows 11 nothing is done. Both that and a failed call are told on the standard error stream.
     std::function<void(Handle window, bool windows11OrLater)> setDarkTitleBar;
+    /// Whether the desktop's settings let widgets move. Always on systems where only the toolkit's style may know.
+    std::function<bool()> areAnimationsOn;
 
 private:
     NativeWindowApi();

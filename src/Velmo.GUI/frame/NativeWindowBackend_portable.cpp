@@ -61,3 +61,8 @@ void NativeWindowBackend::setDarkTitleBar(void *, bool windows11OrLater)
 {
     std::fputs(windows11OrLater ? darkTitleBarFailed : tooOldForDarkTitleBar, stderr);
 }
+
+bool NativeWindowBackend::areAnimationsOn()
+{
+    return true;
+}

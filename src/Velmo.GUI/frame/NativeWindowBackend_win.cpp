@@ -53,3 +53,9 @@ void NativeWindowBackend::setDarkTitleBar(void *window, bool windows11OrLater)
     if (FAILED(DwmSetWindowAttribute(static_cast<HWND>(window), useImmersiveDarkMode, &dark, sizeof(dark))))
         std::fputs(darkTitleBarFailed, stderr);
 }
+
+bool NativeWindowBackend::areAnimationsOn()
+{
+    BOOL on = TRUE;
+    return !SystemParametersInfoW(SPI_GETCLIENTAREAANIMATION, 0, &on, 0) || on;
+}

@@ -2,6 +2,7 @@
 
 #include "foundation/AccessibleWidgets.h"
 #include "foundation/VelmoPalette.h"
+#include "frame/NativeWindowApi.h"
 #include "messages/GuideRules.h"
 
 #include "ui_oVIXGuideOverlay.h"
@@ -12,6 +13,8 @@
 #include <QPainterPath>
 #include <QPropertyAnimation>
 #include <QStyle>
+
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -85,6 +88,13 @@ QString skipSheet()
            "        }\n"_s;
 }
 
+bool isMotionWanted(const QWidget *widget)
+{
+    const NativeWindowApi &native = NativeWindowApi::instance();
+    return (!native.areAnimationsOn || native.areAnimationsOn())
+        && widget->style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, widget) > 0;
+}
+
 QAccessibleInterface *createAccessible(QWidget *overlay)
 {
     return new QAccessibleWidget(overlay, QAccessible::Dialog);
@@ -156,7 +166,7 @@ void oVIXGuideOverlay::revealStep()
     // Whoever heard of that may have deleted the tour, or gone on with it.
     if (!alive || m_transition)
         return;
-    if (style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, this) <= 0) {
+    if (!isMotionWanted(this)) {
         setAnimationProgress(1.0F);
         return;
     }

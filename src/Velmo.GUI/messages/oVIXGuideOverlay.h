@@ -20,8 +20,8 @@ class oVIXGuideOverlay;
 ///
 /// The overlay covers its parent, follows the parent's size and shows above its other children. Around what the steps
 /// draw, it is transparent. Whenever the user changes the step, the picture is revealed by a circle that grows from
-/// the middle over one second; where the desktop's animations are switched off it appears at once. The first step is
-/// not revealed until the application calls `revealStep` or sets the progress.
+/// the middle over one second; where the desktop or the style has animations switched off it appears at once. The first
+/// step is not revealed until the application calls `revealStep` or sets the progress.
 ///
 /// Escape skips, the arrow keys go back and on. While the overlay shows, Tab stays within it and mouse presses do not
 /// reach the window below. Assistive tools are told each step.

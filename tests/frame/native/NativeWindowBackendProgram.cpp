@@ -73,6 +73,17 @@ void checkDarkTitleBar(Checks &checks, const OwnWindow &window, bool takesAnyWin
         checks.check(toldOnDarkening(nullptr, true) == failed, "a failed call is told");
 }
 
+void checkAnimations(Checks &checks)
+{
+    using NativeWindowBackend::areAnimationsOn;
+    const bool before = areAnimationsOn();
+    OwnWindow::setAnimations(false);
+    checks.check(areAnimationsOn() != OwnWindow::tellsAnimations, "animations that are switched off are off");
+    OwnWindow::setAnimations(true);
+    checks.check(areAnimationsOn(), "animations that are switched on are on");
+    OwnWindow::setAnimations(before);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -87,5 +98,6 @@ int main(int argc, char **argv)
     checkKeys(checks, window);
     checkMonitor(checks, window);
     checkDarkTitleBar(checks, window, argc > 2 && std::strcmp(argv[2], "takes-any-window") == 0);
+    checkAnimations(checks);
     return checks.result();
 }

@@ -21,6 +21,7 @@ public:
     /// What the system can do.
     static const bool tellsHeldKeys;
     static const bool takesDarkTitleBar;
+    static const bool tellsAnimations;
 
     OwnWindow();
     ~OwnWindow();
@@ -31,6 +32,9 @@ public:
 
     void press(Key key);
     void release(Key key);
+
+    /// Sets the desktop's setting for this session.
+    static void setAnimations(bool on);
 
 private:
     class Private;

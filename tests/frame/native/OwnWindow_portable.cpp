@@ -29,6 +29,7 @@ public:
 
 const bool OwnWindow::tellsHeldKeys = false;
 const bool OwnWindow::takesDarkTitleBar = false;
+const bool OwnWindow::tellsAnimations = false;
 
 OwnWindow::OwnWindow() : d(std::make_unique<Private>())
 { }
@@ -50,4 +51,7 @@ void OwnWindow::press(Key)
 { }
 
 void OwnWindow::release(Key)
+{ }
+
+void OwnWindow::setAnimations(bool)
 { }

@@ -67,6 +67,7 @@ private:
 
 const bool OwnWindow::tellsHeldKeys = true;
 const bool OwnWindow::takesDarkTitleBar = true;
+const bool OwnWindow::tellsAnimations = true;
 
 OwnWindow::OwnWindow() : d(std::make_unique<Private>())
 { }
@@ -91,4 +92,9 @@ void OwnWindow::press(Key key)
 void OwnWindow::release(Key key)
 {
     d->send(key, KEYEVENTF_KEYUP, WM_KEYUP);
+}
+
+void OwnWindow::setAnimations(bool on)
+{
+    SystemParametersInfoW(SPI_SETCLIENTAREAANIMATION, 0, reinterpret_cast<void *>(INT_PTR(on)), 0);
 }
