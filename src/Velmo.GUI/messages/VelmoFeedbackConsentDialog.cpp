@@ -11,8 +11,6 @@
 #include <QSettings>
 #include <QVBoxLayout>
 
-#include <optional>
-
 using namespace Qt::StringLiterals;
 
 namespace {
