@@ -80,6 +80,20 @@ private slots:
         QCOMPARE(told(scene), told(sample()));
         QCOMPARE(scene.colourOf(scene.vehicles[0]), QColor(Qt::green));
     }
+
+    void tagsOfOneNameCountAsOne()
+    {
+        Scene scene;
+        scene.tags = {{1, u"a"_s, Qt::red}, {2, u"a"_s, Qt::green}, {3, u"b"_s, Qt::blue}, {4, u"b"_s, Qt::white}};
+        scene.people.resize(2);
+        scene.people[0].tags = {2};
+        SceneTags::setAsideUnused(&scene);
+        QCOMPARE(told(scene), u"a | b | 2;"_s);
+        SceneTags::arrange(&scene, {u"a"_s, u"b"_s}, {});
+        QCOMPARE(told(scene), u"a,b |  | 2,3;3"_s);
+        SceneTags::arrange(&scene, {}, {u"a"_s, u"b"_s});
+        QCOMPARE(told(scene), u" | a,b | 2,3;3"_s);
+    }
 };
 
 VELMO_TEST_MAIN(SceneTagsTest)

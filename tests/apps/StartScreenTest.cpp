@@ -127,25 +127,25 @@ private slots:
         QTemporaryDir data;
         qputenv("XDG_DATA_HOME", data.path().toLocal8Bit());
         const auto restore = qScopeGuard([] { qunsetenv("XDG_DATA_HOME"); });
-        write(u"Airport/A &amp; b.vscene"_s, goodScene);
+        write(u"Airport/A &amp;  b.vscene"_s, goodScene);
         m_screen->selectProject(1);
         m_screen->selectProject(0);
         QTRY_VERIFY(!m_screen->isReading());
-        QCOMPARE(table()->getSelectedScene(), u"A &amp; b"_s);
+        QCOMPARE(table()->getSelectedScene(), u"A &amp;  b"_s);
         answerNextBox([](VelmoMessageWidget *box) {
             const QString text = box->findChild<QTextBrowser *>(u"textBrowser"_s)->toPlainText();
-            QVERIFY2(text.contains(u"A &amp; b"_s), qPrintable(text));
+            QVERIFY2(text.contains(u"A &amp;  b"_s), qPrintable(text));
             QTest::keyClick(box, Qt::Key_Escape);
         });
         m_screen->deleteSelectedScene();
-        QVERIFY(QFile::exists(path(u"Airport/A &amp; b.vscene"_s)));
+        QVERIFY(QFile::exists(path(u"Airport/A &amp;  b.vscene"_s)));
 
         answerNextBox([](VelmoMessageWidget *box) { box->fnAccept(); });
         m_screen->deleteSelectedScene();
-        QVERIFY(!QFile::exists(path(u"Airport/A &amp; b.vscene"_s)));
+        QVERIFY(!QFile::exists(path(u"Airport/A &amp;  b.vscene"_s)));
         QTRY_VERIFY(!m_screen->isReading());
         QCOMPARE(table()->getSelectedScene(), u"Gate"_s);
-        QVERIFY2(status()->text().contains(u"A &amp; b"_s), qPrintable(status()->text()));
+        QVERIFY2(status()->text().contains(u"A &amp;  b"_s), qPrintable(status()->text()));
 
         // The file goes while the question is up.
         QString problem;

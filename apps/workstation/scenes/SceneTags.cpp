@@ -36,6 +36,17 @@ QSet<int> usedIds(const Scene &scene)
     return used;
 }
 
+QSet<QString> usedNames(const Scene &scene)
+{
+    const QSet<int> used = usedIds(scene);
+    QSet<QString> names;
+    for (const SceneTag &tag : scene.tags) {
+        if (used.contains(tag.id))
+            names.insert(tag.name);
+    }
+    return names;
+}
+
 int freeId(const Scene &scene)
 {
     const QSet<int> used = usedIds(scene);
@@ -98,9 +109,9 @@ QStringList SceneTags::available(const Scene &scene)
 
 void SceneTags::setAsideUnused(Scene *scene)
 {
-    const QSet<int> used = usedIds(*scene);
+    const QSet<QString> used = usedNames(*scene);
     for (SceneTag &tag : scene->tags)
-        tag.isAssigned = used.contains(tag.id);
+        tag.isAssigned = used.contains(tag.name);
 }
 
 void SceneTags::arrange(Scene *scene, const QStringList &assigned, const QStringList &available)
@@ -116,13 +127,17 @@ void SceneTags::arrange(Scene *scene, const QStringList &assigned, const QString
             settledName(scene, name);
     }
 
-    const QSet<int> used = usedIds(*scene);
+    QSet<QString> settled = usedNames(*scene);
+    for (const QString &name : SceneTags::assigned(*scene))
+        settled.insert(name);
     for (SceneTag &tag : scene->tags) {
         if (tag.name.trimmed().isEmpty())
             continue;
-        const bool isNew = !tag.isAssigned && wanted.contains(tag.name) && !used.contains(tag.id);
         tag.isAssigned = wanted.contains(tag.name);
-        for (qsizetype i = 0; isNew && i < scene->people.size(); ++i)
-            scene->people[i].tags << tag.id;
+        if (!tag.isAssigned || settled.contains(tag.name))
+            continue;
+        settled.insert(tag.name);
+        for (SceneMover &person : scene->people)
+            person.tags << tag.id;
     }
 }

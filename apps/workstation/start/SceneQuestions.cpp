@@ -4,9 +4,13 @@
 
 #include <QTextDocument>
 
+using namespace Qt::StringLiterals;
+
 bool SceneQuestions::confirmDeleting(const QString &name, QWidget *parent)
 {
-    const QString question = tr("Do you want to move the scene <b>%1</b> to the trash?").arg(name.toHtmlEscaped());
+    // Blanks count in the names of files.
+    const QString shownName = u"<b style='white-space:pre-wrap'>%1</b>"_s.arg(name.toHtmlEscaped());
+    const QString question = tr("Do you want to move the scene %1 to the trash?").arg(shownName);
     return VelmoQuestionMessage(tr("Delete scene"), question, parent, nullptr) == MsgAccepted;
 }
 
