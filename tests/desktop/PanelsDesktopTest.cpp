@@ -5,8 +5,10 @@
 #include "OvixThumbnailSizeWidget.h"
 #include "oVIXCombo.h"
 #include "oVIXDockBar.h"
+#include "oVIXDragDropListWidget.h"
 #include "panels/LibraryPanel.h"
 #include "panels/ParametersPanel.h"
+#include "panels/TagsPanel.h"
 #include "start/StartScreen.h"
 #include "window/ScenePage.h"
 #include "window/SceneView.h"
@@ -35,8 +37,8 @@ private slots:
         QVERIFY(QDir(m_folder->path()).mkdir(u"Airport"_s));
         QFile file(m_folder->filePath(u"Airport/Hall.vscene"_s));
         QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("<VelmoSerializer><background width=\"90\" depth=\"60\"/><actors><actor type=\"adult\"/>"
-                   "<actor type=\"child\"/></actors></VelmoSerializer>");
+        file.write("<VelmoSerializer><background width=\"90\" depth=\"60\"/><tags><tag id=\"1\" name=\"vip\"/></tags>"
+                   "<actors><actor type=\"adult\" tags=\"1\"/><actor type=\"child\"/></actors></VelmoSerializer>");
         file.close();
         m_window = std::make_unique<WorkstationWindow>(m_folder->path());
         RealInput::show(m_window.get(), place);
@@ -175,6 +177,18 @@ private slots:
         RealInput::key(u"space"_s);
         QTRY_COMPARE(chosen.size(), 2);
         QCOMPARE(colours->getCurrentComboText(), u"Goal"_s);
+    }
+
+    void aTagIsDroppedOnTheFilter()
+    {
+        const TagsPanel *panel = m_window->tagsPanel();
+        const auto *assigned = panel->findChild<oVIXDragDropListWidget *>(u"leftList"_s);
+        const auto *filter = panel->findChild<oVIXCombo *>();
+        RealInput::drag(assigned->viewport()->mapToGlobal(QPoint(35, 12)),
+                        filter->mapToGlobal(filter->rect().center()));
+        QTRY_COMPARE(filter->getCurrentComboText(), u"vip"_s);
+        QCOMPARE(m_window->scenePage()->view()->options().highlightedTag, u"vip"_s);
+        QCOMPARE(assigned->count(), 2); // and the add tag
     }
 
 private:
