@@ -1,8 +1,8 @@
 #include "choosers/oVIXButton.h"
 
 #include "choosers/AccessibleChoosers.h"
-#include "foundation/ElidedText.h"
 #include "foundation/AccessibleWidgets.h"
+#include "foundation/ElidedText.h"
 #include "foundation/KeyboardPress.h"
 #include "foundation/OvixSvgKey.h"
 #include "foundation/OvixSvgRenderer.h"

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int titleHeight = 30;
 constexpr int closeSide = 32;
-constexpr int closeMargin = 4;
+constexpr int titleCloseMargin = 4;
 
 QString titleSheet()
 {
@@ -33,7 +33,7 @@ oVIXDialogTitle::oVIXDialogTitle(QWidget *parent)
     m_closeButton->setColorScheme(OvixSvgLabel::Charcoal);
     m_closeButton->setHoverVisible(true);
     m_closeButton->setFilename(u":/Windows/Close"_s);
-    m_closeButton->setMargins(closeMargin);
+    m_closeButton->setMargins(titleCloseMargin);
     m_closeButton->setAccessibleName(tr("Close"));
     connect(m_closeButton, &OvixSvgButton::clicked, this, &oVIXDialogTitle::closeClicked);
 

@@ -40,7 +40,7 @@ QString headingSheet()
     return u"QLabel { color: rgb(219,219,219); font-family:Inter; font-size:15px; }"_s;
 }
 
-QString bodySheet()
+QString explanationSheet()
 {
     return u"QLabel { color: rgb(156,156,156); font: Inter; font-size:11px }"_s;
 }
@@ -145,7 +145,7 @@ void VelmoFeedbackConsentDialog::createDialogElements()
                "* There are no additional emails regarding your participation\n"
                "* You can change your decision at any time from the 'Help' section of %1 Workstation\n")
                 .arg(product),
-            bodySheet());
+            explanationSheet());
     addLine(layout);
     addOptions(layout, tr("Help us improve %1, by participating in our customer feedback program?").arg(product));
     addLine(layout);

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString lineSheet()
+QString separatorSheet()
 {
     return u" background-color:rgb(105,105,105); "_s;
 }
@@ -34,7 +34,7 @@ oVIXDialogModalBase::oVIXDialogModalBase(QWidget *parent)
 {
     m_ui->setupUi(this);
     setModal(true);
-    m_ui->line->setStyleSheet(lineSheet());
+    m_ui->line->setStyleSheet(separatorSheet());
     for (QPushButton *button : {m_ui->closeButton, m_ui->exitButton}) {
         button->setStyleSheet(buttonSheet());
         button->hide();

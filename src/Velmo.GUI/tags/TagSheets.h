@@ -13,8 +13,8 @@ QString addLine(const QColor &background, const QColor &text);
 QString dropListScrollBar();
 QString tagList(const QColor &tag, const QColor &text);
 QString tagListScrollBar();
-/// For the lists of the two-pane editor. The brace stays open, so the sheet sets nothing and just takes the place of the
-/// one in the form; the toolkit warns of it once for each list.
+/// For the lists of the two-pane editor. The brace stays open, so the sheet sets nothing and just takes the place of
+/// the one in the form; the toolkit warns of it once for each list.
 QString paneList();
 QString paneTitle();
 QString paneSeparator(QLatin1StringView colour);

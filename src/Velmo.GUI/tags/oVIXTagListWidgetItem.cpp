@@ -6,7 +6,7 @@
 namespace {
 
 constexpr int chipHeight = 20;
-constexpr int widthBesideText = 40;
+constexpr int besideItemText = 40;
 
 } // namespace
 
@@ -22,5 +22,5 @@ oVIXTagListWidgetItem::~oVIXTagListWidgetItem() = default;
 void oVIXTagListWidgetItem::setText(const QString &text)
 {
     QLabel::setText(text);
-    setFixedWidth(chipWidth(text, widthBesideText));
+    setFixedWidth(chipWidth(text, besideItemText));
 }
