@@ -10,6 +10,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
 using namespace Qt::StringLiterals;
 
 class ProjectFolderTest : public TestCase
@@ -129,6 +134,44 @@ private slots:
 #endif
         QVERIFY(!project().deleteScene(scene).problem.isEmpty());
     }
+
+    void removesForGood()
+    {
+        write(u"Hall.vscene"_s, "hall");
+        const SceneFile scene{u"Hall"_s, path(u"Hall.vscene"_s)};
+        QCOMPARE(project().removeScene(scene).problem, QString());
+        QVERIFY(!QFile::exists(scene.path));
+        QVERIFY(!project().removeScene(scene).problem.isEmpty());
+    }
+
+    void aFolderInPlaceOfAFileStays()
+    {
+        const SceneFile scene{u"Hall"_s, path(u"Hall.vscene"_s)};
+        QVERIFY(QDir().mkdir(scene.path));
+        for (const ProjectFolder::Change &change :
+             {project().renameScene(scene, u"Gate"_s), project().cloneScene(scene), project().deleteScene(scene),
+              project().removeScene(scene)})
+            QVERIFY(!change.problem.isEmpty());
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), {u"Hall.vscene"_s});
+    }
+
+#ifdef Q_OS_UNIX
+    void aFullDiskLeavesNothingBehind()
+    {
+        write(u"Hall.vscene"_s, QByteArray(100000, 'x'));
+        rlimit before{};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit little{50000, before.rlim_max}; // as if there were no more space
+        QCOMPARE(setrlimit(RLIMIT_FSIZE, &little), 0);
+        const ProjectFolder::Change change = project().cloneScene({u"Hall"_s, path(u"Hall.vscene"_s)});
+        setrlimit(RLIMIT_FSIZE, &before);
+        std::signal(SIGXFSZ, handler);
+        QVERIFY(!change.problem.isEmpty());
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden), {u"Hall.vscene"_s});
+        QCOMPARE(read(u"Hall.vscene"_s).size(), 100000);
+    }
+#endif
 
     void refusesWhatAnySystemRefuses()
     {

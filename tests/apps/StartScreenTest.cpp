@@ -3,13 +3,18 @@
 
 #include "BoxAnswer.h"
 
+#include "VelmoProjectItem.h"
+#include "VelmoProjectScenesWidget.h"
+#include "VelmoProjectsTable.h"
 #include "VelmoSceneItem.h"
 #include "VelmoScenesTable.h"
+#include "VelmoYesNoWidget.h"
 #include "start/StartScreen.h"
 #include "start/StatusLine.h"
 
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QScopeGuard>
 #include <QSignalSpy>
@@ -49,6 +54,44 @@ private slots:
         QCOMPARE(table()->getSelectedScene(), u"Gate"_s);
         QCOMPARE(status()->text(), u"3 scenes, 1 could not be read"_s);
         QVERIFY(!table()->findChildren<VelmoSceneItem *>().first()->isEnabled());
+        const auto *projects = m_screen->findChild<VelmoProjectsTable *>();
+        QCOMPARE(projects->getSelectedProject(), path(u"Airport"_s));
+        const QString modified = QFileInfo(path(u"Airport"_s)).lastModified().toString();
+        QCOMPARE(projects->findChild<VelmoProjectItem *>()->findChild<QLabel *>(u"lastModifiedLabel"_s)->text(),
+                 modified);
+    }
+
+    void opensAndLeavesByTheBar()
+    {
+        QSignalSpy opened(m_screen.get(), &StartScreen::openRequested);
+        auto *bar = m_screen->findChild<VelmoYesNoWidget *>();
+        Gestures::click(bar->findChild<QWidget *>(u"okButton"_s));
+        QCOMPARE(opened.size(), 1);
+        QCOMPARE(opened.first().first().toString(), path(u"Airport/Gate.vscene"_s));
+        Gestures::click(bar->findChild<QWidget *>(u"cancelButton"_s));
+        QVERIFY(!m_screen->canOpen() && !bar->getEnableOkButton());
+        QVERIFY(!m_screen->findChild<QWidget *>(u"deleteSceneButton"_s)->isEnabled());
+        m_screen->openSelectedScene();
+        QCOMPARE(opened.size(), 1);
+    }
+
+    void previewsWhatTheFileHolds()
+    {
+        write(u"Station/Square.vscene"_s,
+              "<VelmoSerializer>\n<scenemetadata/>\n<background width=\"100\" depth=\"50\"/>\n</VelmoSerializer>\n");
+        m_screen->selectProject(1);
+        QTRY_VERIFY(!m_screen->isReading());
+        const auto *preview = m_screen->findChild<QLabel *>(u"thumbnailLabel"_s);
+        QTRY_VERIFY(preview->text().contains(u"NO SCENE PREVIEW"_s)); // of "Platform"
+        auto *panel = m_screen->findChild<VelmoProjectScenesWidget *>();
+        panel->setSceneSelected(u"Square"_s);
+        QTRY_VERIFY(!preview->pixmap().isNull());
+        QCOMPARE(preview->pixmap().deviceIndependentSize().toSize(), preview->size());
+        const QImage picture = preview->pixmap().toImage();
+        QVERIFY(picture.pixelColor(picture.rect().center()) != picture.pixelColor(0, 0)); // ground and around
+        panel->setSceneSelected(u"Platform"_s);
+        QTRY_VERIFY(preview->pixmap().isNull());
+        panel->setSceneSelected(u"Square"_s); // and the window may close meanwhile
     }
 
     void scenesNeverLandInTheWrongList()
@@ -83,9 +126,13 @@ private slots:
     void saysWhyARenameIsRefused()
     {
         emit table()->renameRequested(u"Hall"_s, u"gate"_s);
+        QVERIFY2(readReport().contains(u"gate"_s), qPrintable(m_report));
         QVERIFY(table()->hasScene(u"Hall"_s));
-        QVERIFY(status()->showsProblem());
-        QVERIFY2(status()->text().contains(u"gate"_s), qPrintable(status()->text()));
+
+        QVERIFY(QFile::remove(path(u"Airport/Hall.vscene"_s))); // what has vanished goes from the list
+        emit table()->renameRequested(u"Hall"_s, u"Exit"_s);
+        QVERIFY2(readReport().contains(u"Hall"_s), qPrintable(m_report));
+        QTRY_COMPARE(sceneNames(), QStringList({u"Broken"_s, u"Gate"_s}));
     }
 
     void renamesTheRightOneOfTwoThatDifferInCase()
@@ -148,19 +195,31 @@ private slots:
         QVERIFY2(status()->text().contains(u"A &amp;  b"_s), qPrintable(status()->text()));
 
         // The file goes while the question is up.
-        QString problem;
-        answerNextBox([&problem, this](VelmoMessageWidget *box) {
+        answerNextBox([this](VelmoMessageWidget *box) {
             QVERIFY(QFile::remove(path(u"Airport/Gate.vscene"_s)));
-            answerNextBox([&problem](VelmoMessageWidget *report) {
-                problem = report->findChild<QTextBrowser *>(u"textBrowser"_s)->toPlainText();
-                report->fnAccept();
-            });
             box->fnAccept();
         });
         m_screen->deleteSelectedScene();
-        QVERIFY2(problem.contains(u"Gate"_s), qPrintable(problem));
-        QCOMPARE(sceneNames(), QStringList({u"Broken"_s, u"Gate"_s, u"Hall"_s}));
+        QVERIFY2(readReport().contains(u"Gate"_s), qPrintable(m_report));
+        QTRY_COMPARE(sceneNames(), QStringList({u"Broken"_s, u"Hall"_s}));
     }
+
+#ifdef Q_OS_LINUX
+    void asksAgainWhereThereIsNoTrash()
+    {
+        qputenv("XDG_DATA_HOME", path(u"Airport/Broken.vscene"_s).toLocal8Bit()); // no folder
+        const auto restore = qScopeGuard([] { qunsetenv("XDG_DATA_HOME"); });
+        for (const bool agreed : {false, true}) {
+            answerNextBox([agreed](VelmoMessageWidget *box) {
+                answerNextBox([agreed](VelmoMessageWidget *again) { agreed ? again->fnAccept() : again->fnReject(); });
+                box->fnAccept();
+            });
+            m_screen->deleteSelectedScene();
+            QCOMPARE(QFile::exists(path(u"Airport/Gate.vscene"_s)), !agreed);
+        }
+        QTRY_COMPARE(sceneNames(), QStringList({u"Broken"_s, u"Hall"_s}));
+    }
+#endif
 
     void addsAndSelectsANewScene()
     {
@@ -192,9 +251,18 @@ private slots:
 private:
     static constexpr auto goodScene = "<VelmoSerializer>\n<scenemetadata actorcount=\"3\"/>\n</VelmoSerializer>\n";
 
-    VelmoScenesTable *table() const { return m_screen->findChild<VelmoScenesTable *>(); }
-    StatusLine *status() const { return m_screen->findChild<StatusLine *>(); }
-    QString path(const QString &name) const { return QDir(m_folder->path()).filePath(name); }
+    VelmoScenesTable *table() const
+    {
+        return m_screen->findChild<VelmoScenesTable *>();
+    }
+    StatusLine *status() const
+    {
+        return m_screen->findChild<StatusLine *>();
+    }
+    QString path(const QString &name) const
+    {
+        return QDir(m_folder->path()).filePath(name);
+    }
 
     QStringList sceneNames() const
     {
@@ -212,6 +280,19 @@ private:
         file.write(content);
     }
 
+    /// Closes the box that is about to come and tells what it says.
+    QString readReport()
+    {
+        m_report.clear();
+        answerNextBox([this](VelmoMessageWidget *box) {
+            m_report = box->findChild<QTextBrowser *>(u"textBrowser"_s)->toPlainText();
+            box->fnAccept();
+        });
+        QCoreApplication::processEvents();
+        return m_report;
+    }
+
+    QString m_report;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<StartScreen> m_screen;
 };

@@ -50,7 +50,7 @@ QList<ProjectFolder> ProjectFolder::projectsIn(const QString &folder)
     QList<ProjectFolder> projects;
     const QStringList names = QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::NoSort);
     for (const QString &name : names)
-        projects << ProjectFolder(QDir(folder).filePath(name));
+        projects << ProjectFolder(QDir(folder).absoluteFilePath(name));
     std::sort(projects.begin(), projects.end(), [](const ProjectFolder &left, const ProjectFolder &right) {
         return comesBefore(left.name(), right.name());
     });
@@ -70,6 +70,11 @@ QString ProjectFolder::path() const
     return m_path;
 }
 
+QDateTime ProjectFolder::lastModified() const
+{
+    return QFileInfo(m_path).lastModified();
+}
+
 QList<SceneFile> ProjectFolder::scenes() const
 {
     QList<SceneFile> scenes;
@@ -87,9 +92,10 @@ QList<SceneFile> ProjectFolder::scenes() const
 
 ProjectFolder::Change ProjectFolder::renameScene(const SceneFile &scene, const QString &newName) const
 {
-    const QString problem = SceneNames::problem(newName);
-    if (!problem.isEmpty())
-        return {scene, problem};
+    for (const QString &problem : {SceneNames::problem(newName), goneProblem(scene)}) {
+        if (!problem.isEmpty())
+            return {scene, problem};
+    }
 
     const QString oldFileName = QFileInfo(scene.path).fileName();
     const QString newFileName = newName + oldFileName.right(SceneFile::ending().size());
@@ -132,12 +138,29 @@ ProjectFolder::Change ProjectFolder::cloneScene(const SceneFile &scene) const
 
 ProjectFolder::Change ProjectFolder::deleteScene(const SceneFile &scene) const
 {
-    if (!QFileInfo(scene.path).isFile())
-        return {scene, tr("There is no file of \"%1\" any more.").arg(scene.name)};
+    const QString gone = goneProblem(scene);
+    if (!gone.isEmpty())
+        return {scene, gone};
     QFile file(scene.path);
     if (!file.moveToTrash())
         return {scene, tr("\"%1\" cannot be moved to the trash: %2").arg(scene.name, file.errorString())};
     return {scene, {}};
+}
+
+ProjectFolder::Change ProjectFolder::removeScene(const SceneFile &scene) const
+{
+    const QString gone = goneProblem(scene);
+    if (!gone.isEmpty())
+        return {scene, gone};
+    QFile file(scene.path);
+    if (!file.remove())
+        return {scene, tr("\"%1\" cannot be deleted: %2").arg(scene.name, file.errorString())};
+    return {scene, {}};
+}
+
+QString ProjectFolder::goneProblem(const SceneFile &scene)
+{
+    return QFileInfo(scene.path).isFile() ? QString() : tr("There is no file of \"%1\" any more.").arg(scene.name);
 }
 
 ProjectFolder::Change ProjectFolder::makeScene(const QString &baseName,

@@ -3,6 +3,7 @@
 #include "scenes/SceneFile.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QList>
 
 #include <functional>
@@ -32,7 +33,10 @@ public:
     explicit ProjectFolder(const QString &path = QString());
 
     QString name() const;
+    /// Absolute, if the folder's own path is or has been made so by `projectsIn`.
     QString path() const;
+    /// When a file in it was last written, made, renamed or removed; invalid when unknown.
+    QDateTime lastModified() const;
 
     /// The project's scenes, by name.
     QList<SceneFile> scenes() const;
@@ -45,8 +49,12 @@ public:
     Change cloneScene(const SceneFile &scene) const;
     /// Moves the scene's file to the trash; where there is no trash, it stays.
     Change deleteScene(const SceneFile &scene) const;
+    /// Removes the scene's file for good.
+    Change removeScene(const SceneFile &scene) const;
 
 private:
+    /// The words for the user when the scene's file has gone, or is no file any more; else empty.
+    static QString goneProblem(const SceneFile &scene);
     /// Makes a scene of the first free name like @p baseName; @p write says whether it has written all.
     Change makeScene(const QString &baseName, const std::function<bool(QIODevice &)> &write) const;
     bool isTaken(const QString &fileName, const QString &exceptFileName = QString()) const;

@@ -1,11 +1,21 @@
 #include "scenes/SceneReader.h"
 
-#include <QDateTime>
+#include "scenes/Delivery.h"
+
+#include <QElapsedTimer>
 #include <QFileInfo>
-#include <QMutex>
+#include <QPointer>
 #include <QThreadPool>
 
-using namespace Qt::StringLiterals;
+#include <utility>
+
+namespace {
+
+// milliseconds
+constexpr qint64 longestBatch = 20;
+constexpr qint64 longestTurn = 8; // not to be felt by who moves the pointer
+
+} // namespace
 
 SceneFacts SceneFacts::of(const SceneFile &file)
 {
@@ -13,49 +23,15 @@ SceneFacts SceneFacts::of(const SceneFile &file)
     facts.file = file;
     facts.metadata = VelmoSceneMetadataParser::withDefaults();
     facts.readable = facts.metadata.read(file.path).ok;
-    facts.lastModified = QFileInfo(file.path).lastModified().toString(u"yyyy-MM-dd hh:mm");
-    facts.newer = VelmoVersion::current() < facts.metadata.version;
+    facts.lastModified = QFileInfo(file.path).lastModified();
     return facts;
 }
 
-/// The way from the reading threads back to the reader. It outlives the reader for as long as a thread holds it.
-struct SceneReader::Delivery
-{
-    explicit Delivery(SceneReader *to) : receiver(to) { }
-
-    bool isWanted()
-    {
-        const QMutexLocker locker(&mutex);
-        return receiver;
-    }
-
-    void close()
-    {
-        const QMutexLocker locker(&mutex);
-        receiver = nullptr;
-    }
-
-    /// Runs @p function in the reader's thread, unless the delivery has been closed by then.
-    template <class Function> static void post(const std::shared_ptr<Delivery> &delivery, Function function)
-    {
-        const QMutexLocker locker(&delivery->mutex);
-        if (!delivery->receiver)
-            return;
-        QMetaObject::invokeMethod(
-            delivery->receiver,
-            [delivery, function] {
-                if (delivery->isWanted())
-                    function(delivery->receiver);
-            },
-            Qt::QueuedConnection);
-    }
-
-    QMutex mutex;
-    SceneReader *receiver;
-};
-
 SceneReader::SceneReader(QObject *parent) : QObject(parent)
-{ }
+{
+    m_turns.setInterval(0);
+    connect(&m_turns, &QTimer::timeout, this, &SceneReader::handOver);
+}
 
 SceneReader::~SceneReader()
 {
@@ -65,37 +41,65 @@ SceneReader::~SceneReader()
 void SceneReader::read(const QList<SceneFile> &files)
 {
     abandon();
-    m_delivery = std::make_shared<Delivery>(this);
+    m_delivery = std::make_shared<Delivery<SceneReader>>(this);
     start(files);
 }
 
 void SceneReader::readAlso(const SceneFile &file)
 {
     if (!m_delivery)
-        m_delivery = std::make_shared<Delivery>(this);
+        m_delivery = std::make_shared<Delivery<SceneReader>>(this);
     start({file});
 }
 
 bool SceneReader::isReading() const
 {
-    return m_listsUnderWay > 0;
+    return m_listsUnderWay > 0 || m_turns.isActive();
 }
 
 void SceneReader::start(const QList<SceneFile> &files)
 {
     ++m_listsUnderWay;
     QThreadPool::globalInstance()->start([delivery = m_delivery, files] {
+        const auto post = [&delivery](const QList<SceneFacts> &batch, int endedLists) {
+            Delivery<SceneReader>::post(delivery, [batch, endedLists](SceneReader *reader) {
+                reader->m_arrived += batch;
+                reader->m_listsUnderWay -= endedLists;
+                reader->m_turns.start();
+            });
+        };
+        QList<SceneFacts> batch;
+        QElapsedTimer sincePost;
+        sincePost.start();
         for (const SceneFile &file : files) {
             if (!delivery->isWanted())
                 return;
-            Delivery::post(delivery,
-                           [facts = SceneFacts::of(file)](SceneReader *reader) { emit reader->sceneRead(facts); });
+            batch << SceneFacts::of(file);
+            if (sincePost.hasExpired(longestBatch)) {
+                post(std::exchange(batch, {}), 0);
+                sincePost.restart();
+            }
         }
-        Delivery::post(delivery, [](SceneReader *reader) {
-            if (--reader->m_listsUnderWay == 0)
-                emit reader->finished();
-        });
+        post(batch, 1);
     });
+}
+
+void SceneReader::handOver()
+{
+    const QPointer<SceneReader> self(this);
+    QElapsedTimer turn;
+    turn.start();
+    while (!m_arrived.isEmpty() && !turn.hasExpired(longestTurn)) {
+        emit sceneRead(m_arrived.takeFirst());
+        if (!self)
+            return;
+    }
+    // Whoever has listened may have asked for another list.
+    if (!m_arrived.isEmpty() || !m_turns.isActive())
+        return;
+    m_turns.stop();
+    if (m_listsUnderWay == 0)
+        emit finished();
 }
 
 void SceneReader::abandon()
@@ -104,4 +108,6 @@ void SceneReader::abandon()
         m_delivery->close();
     m_delivery.reset();
     m_listsUnderWay = 0;
+    m_arrived.clear();
+    m_turns.stop();
 }

@@ -14,6 +14,12 @@ bool SceneQuestions::confirmDeleting(const QString &name, QWidget *parent)
     return VelmoQuestionMessage(tr("Delete scene"), question, parent, nullptr) == MsgAccepted;
 }
 
+bool SceneQuestions::confirmRemoving(const QString &problem, QWidget *parent)
+{
+    const QString question = problem + u'\n' + tr("Do you want to delete it for good?");
+    return VelmoQuestionMessage(tr("Delete scene"), Qt::convertFromPlainText(question), parent, nullptr) == MsgAccepted;
+}
+
 QString SceneQuestions::askNewName(const QString &name, QWidget *parent)
 {
     QString newName = name;

@@ -14,6 +14,8 @@ class SceneQuestions
 public:
     /// Whether the scene is to go to the trash.
     static bool confirmDeleting(const QString &name, QWidget *parent);
+    /// Whether the scene is to go for good; @p problem tells why it cannot go to the trash.
+    static bool confirmRemoving(const QString &problem, QWidget *parent);
     /// The new name, or an empty text when there is to be none.
     static QString askNewName(const QString &name, QWidget *parent);
     static void report(const QString &title, const QString &problem, QWidget *parent);

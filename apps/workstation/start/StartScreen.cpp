@@ -1,19 +1,19 @@
 #include "start/StartScreen.h"
 
-#include "VelmoScenesTable.h"
+#include "VelmoProjectItem.h"
+#include "VelmoProjectsTable.h"
 #include "look/ElidedLabel.h"
 #include "look/Sheets.h"
 #include "start/HeaderBar.h"
 #include "start/SceneQuestions.h"
+#include "start/ScenesPanel.h"
 #include "start/StatusLine.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QListWidget>
 #include <QPointer>
-#include <QPushButton>
-#include <QScrollBar>
 #include <QStackedWidget>
 
 #include <algorithm>
@@ -22,9 +22,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize smallestSize(1000, 520);
-constexpr int projectsWidth = 260;
+constexpr QSize smallestSize(1100, 560);
 constexpr int gap = 16;
+constexpr int panelMargin = 20; // that of the panel of scenes
+/// How the panels share what a wide window has.
+constexpr int projectsStretch = 1;
+constexpr int scenesStretch = 2;
 
 QLabel *panelLabel(const QString &objectName, QWidget *parent)
 {
@@ -40,9 +43,17 @@ QWidget *createPanel(QWidget *parent)
     panel->setObjectName(u"panel"_s);
     panel->setAttribute(Qt::WA_StyledBackground);
     auto *layout = new QVBoxLayout(panel);
-    layout->setContentsMargins(12, 12, 12, 12);
-    layout->setSpacing(12);
+    layout->setContentsMargins(0, panelMargin, 0, 0);
+    layout->setSpacing(0);
     return panel;
+}
+
+void addTitle(QWidget *title, QWidget *panel)
+{
+    auto *row = new QHBoxLayout;
+    row->setContentsMargins(panelMargin, 0, panelMargin, 0);
+    row->addWidget(title);
+    static_cast<QVBoxLayout *>(panel->layout())->addLayout(row);
 }
 
 } // namespace
@@ -60,8 +71,8 @@ StartScreen::StartScreen(const QString &folder, QWidget *parent)
     auto *panels = new QHBoxLayout;
     panels->setContentsMargins(gap, gap, gap, gap);
     panels->setSpacing(gap);
-    panels->addWidget(createProjectsPanel());
-    panels->addWidget(createScenesPanel(), 1);
+    panels->addWidget(createProjectsPanel(), projectsStretch);
+    panels->addWidget(createScenesPanel(), scenesStretch);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -72,11 +83,15 @@ StartScreen::StartScreen(const QString &folder, QWidget *parent)
 
     connect(m_reader, &SceneReader::sceneRead, this, &StartScreen::showScene);
     connect(m_reader, &SceneReader::finished, this, &StartScreen::finishReading);
-    connect(m_table, &VelmoScenesTable::renameRequested, this, &StartScreen::renameScene);
-    connect(m_table, &VelmoScenesTable::newScenePressed, this, &StartScreen::addScene);
-    connect(m_table, &VelmoScenesTable::selectionChanged, this, &StartScreen::updateOpening);
-    connect(m_openButton, &QPushButton::clicked, this, &StartScreen::openSelectedScene);
-    connect(m_projectList, &QListWidget::currentRowChanged, this, &StartScreen::openProject);
+    connect(m_scenesPanel, &VelmoProjectScenesWidget::accept, this, &StartScreen::openSelectedScene);
+    connect(m_scenesPanel, &VelmoProjectScenesWidget::reject, this, [this] { m_scenesPanel->setSelectedRow(-1); });
+    connect(m_scenesPanel, &VelmoProjectScenesWidget::sceneSelectionChanged, this, &StartScreen::updateSelection);
+    connect(m_scenesPanel, &VelmoProjectScenesWidget::deleteScenePressed, this, &StartScreen::deleteSelectedScene,
+            Qt::QueuedConnection); // its question must not be up while the button is at work
+    connect(m_scenesPanel, &VelmoProjectScenesWidget::cloneScenePressed, this, &StartScreen::cloneSelectedScene);
+    connect(m_scenesPanel, &VelmoProjectScenesWidget::newScenePressed, this, &StartScreen::addScene);
+    connect(m_scenesPanel, &VelmoProjectScenesWidget::renameTriggered, this, &StartScreen::renameScene);
+    connect(m_projectsTable, &VelmoProjectsTable::selectionChanged, this, &StartScreen::openSelectedProject);
 
     listProjects(folder);
 }
@@ -88,7 +103,8 @@ QList<ProjectFolder> StartScreen::projects() const
 
 void StartScreen::selectProject(int row)
 {
-    m_projectList->setCurrentRow(row);
+    if (row >= 0 && row < m_projects.size())
+        m_projectsTable->setSelectedProject(m_projects[row].path());
 }
 
 bool StartScreen::isReading() const
@@ -103,7 +119,7 @@ QSize StartScreen::minimumSizeHint() const
 
 bool StartScreen::canOpen() const
 {
-    return !m_table->getSelectedScene().isEmpty();
+    return m_scenesPanel->getSelectedRow() >= 0;
 }
 
 void StartScreen::openSelectedScene()
@@ -126,7 +142,7 @@ void StartScreen::cloneSelectedScene()
 {
     const SceneFile scene = selectedScene();
     if (!scene.path.isEmpty())
-        showAdded(m_project.cloneScene(scene));
+        showAdded(m_project.cloneScene(scene), tr("Clone scene"));
 }
 
 void StartScreen::deleteSelectedScene()
@@ -136,15 +152,23 @@ void StartScreen::deleteSelectedScene()
     const QPointer<StartScreen> self(this);
     if (scene.path.isEmpty() || !SceneQuestions::confirmDeleting(scene.name, window()) || !self)
         return;
-    const ProjectFolder::Change change = project.deleteScene(scene);
-    if (!change.problem.isEmpty()) {
-        SceneQuestions::report(tr("Delete scene"), change.problem, window());
-        return;
+    QString note = tr("\"%1\" is in the trash.").arg(scene.name);
+    ProjectFolder::Change change = project.deleteScene(scene);
+    if (!change.problem.isEmpty() && QFileInfo(scene.path).isFile()) {
+        if (!SceneQuestions::confirmRemoving(change.problem, window()) || !self)
+            return;
+        note = tr("\"%1\" has been deleted.").arg(scene.name);
+        change = project.removeScene(scene);
     }
     if (project.path() != m_project.path())
         return;
-    m_noteWhenRead = tr("\"%1\" is in the trash.").arg(scene.name);
+    if (!change.problem.isEmpty()) {
+        reportFailure(tr("Delete scene"), change);
+        return;
+    }
+    m_noteWhenRead = note;
     m_sceneWhenRead = neighbourOf(scene);
+    showProjectChanged();
     readScenes();
 }
 
@@ -156,18 +180,15 @@ void StartScreen::showProblem(const QString &text)
 QWidget *StartScreen::createProjectsPanel()
 {
     QWidget *panel = createPanel(this);
-    panel->setFixedWidth(projectsWidth);
     QLabel *title = panelLabel(u"panelTitle"_s, panel);
     title->setText(tr("Projects"));
+    addTitle(title, panel);
 
-    m_projectList = new QListWidget(panel);
-    m_projectList->setStyleSheet(Sheets::nameList());
-    m_projectList->verticalScrollBar()->setStyleSheet(Sheets::scrollBar());
-    m_projectList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_projectList->setAccessibleName(tr("Projects"));
-
-    panel->layout()->addWidget(title);
-    panel->layout()->addWidget(m_projectList);
+    m_projectsTable = new VelmoProjectsTable(panel);
+    auto *frame = new QVBoxLayout;
+    frame->setContentsMargins(panelMargin, panelMargin, panelMargin, panelMargin);
+    frame->addWidget(m_projectsTable);
+    static_cast<QVBoxLayout *>(panel->layout())->addLayout(frame);
     return panel;
 }
 
@@ -176,7 +197,8 @@ QWidget *StartScreen::createScenesPanel()
     QWidget *panel = createPanel(this);
     m_scenesTitle = new ElidedLabel(panel);
     m_scenesTitle->setObjectName(u"panelTitle"_s);
-    m_table = new VelmoScenesTable(panel);
+    addTitle(m_scenesTitle, panel);
+    m_scenesPanel = new ScenesPanel(panel);
     m_emptyNote = panelLabel(u"emptyNote"_s, panel);
     m_emptyNote->setAlignment(Qt::AlignCenter);
     m_emptyNote->setWordWrap(true);
@@ -184,17 +206,8 @@ QWidget *StartScreen::createScenesPanel()
 
     m_scenesStack = new QStackedWidget(panel);
     m_scenesStack->addWidget(m_emptyNote);
-    m_scenesStack->addWidget(m_table);
-
-    m_openButton = new QPushButton(tr("Open scene"), panel);
-    m_openButton->setStyleSheet(Sheets::button());
-    m_openButton->setDefault(true);
-    m_openButton->setEnabled(false);
-
-    auto *layout = static_cast<QVBoxLayout *>(panel->layout());
-    layout->addWidget(m_scenesTitle);
-    layout->addWidget(m_scenesStack);
-    layout->addWidget(m_openButton, 0, Qt::AlignRight);
+    m_scenesStack->addWidget(m_scenesPanel);
+    panel->layout()->addWidget(m_scenesStack);
     return panel;
 }
 
@@ -202,12 +215,10 @@ void StartScreen::listProjects(const QString &folder)
 {
     m_scenesTitle->setFullText(tr("Scenes"));
     m_projects = ProjectFolder::projectsIn(folder);
-    for (const ProjectFolder &project : std::as_const(m_projects)) {
-        auto *item = new QListWidgetItem(project.name(), m_projectList);
-        item->setToolTip(Qt::convertFromPlainText(QDir::toNativeSeparators(project.path()), Qt::WhiteSpaceNormal));
-    }
+    for (const ProjectFolder &project : std::as_const(m_projects))
+        m_projectsTable->addProject(project.path(), project.lastModified().toString());
     if (!m_projects.isEmpty()) {
-        selectProject(0);
+        m_projectsTable->setDefaultSelection();
     } else if (QDir(folder).exists()) {
         m_emptyNote->setText(tr("This folder has no projects. Every folder in it would be one."));
         m_status->showNote(tr("No projects"));
@@ -217,13 +228,14 @@ void StartScreen::listProjects(const QString &folder)
     }
 }
 
-void StartScreen::openProject(int row)
+void StartScreen::openSelectedProject()
 {
-    if (row < 0 || row >= m_projects.size())
+    const QString path = m_projectsTable->getSelectedProject();
+    if (path.isEmpty() || path == m_project.path())
         return;
-    m_project = m_projects[row];
+    m_project = ProjectFolder(path);
     m_scenesTitle->setFullText(m_project.name());
-    m_scenesStack->setCurrentWidget(m_table);
+    m_scenesStack->setCurrentWidget(m_scenesPanel);
     m_sceneWhenRead.clear();
     m_noteWhenRead.clear();
     readScenes();
@@ -232,8 +244,8 @@ void StartScreen::openProject(int row)
 void StartScreen::readScenes()
 {
     m_scenes.clear();
-    m_table->clearScenes();
-    updateOpening();
+    m_scenesPanel->clearScenes();
+    updateSelection();
     m_status->showNote(tr("Reading scenes\u2026"));
     m_reader->read(m_project.scenes());
 }
@@ -241,19 +253,17 @@ void StartScreen::readScenes()
 void StartScreen::showScene(const SceneFacts &facts)
 {
     m_scenes.append(facts);
-    const VelmoSceneMetadataParser &metadata = facts.metadata;
-    m_table->addScene(facts.file.name, facts.newer, facts.lastModified, metadata.bakeStatus, metadata.actorCount,
-                      metadata.vehicleCount, metadata.timeFramerate, metadata.version.toString(), facts.readable);
+    m_scenesPanel->addScene(facts.file.name, facts.metadata, facts.lastModified, facts.readable);
 }
 
 void StartScreen::finishReading()
 {
     if (!m_sceneWhenRead.isEmpty()) {
-        m_table->setSelectedScene(m_sceneWhenRead);
-    } else if (m_table->getSelectedScene().isEmpty()) {
+        m_scenesPanel->setSceneSelected(m_sceneWhenRead);
+    } else if (!canOpen()) {
         const auto first = std::find_if(m_scenes.cbegin(), m_scenes.cend(), std::mem_fn(&SceneFacts::readable));
         if (first != m_scenes.cend())
-            m_table->setSelectedRow(int(first - m_scenes.cbegin()));
+            m_scenesPanel->setSelectedRow(int(first - m_scenes.cbegin()));
     }
     m_status->showNote(m_noteWhenRead.isEmpty() ? summary() : m_noteWhenRead);
     m_sceneWhenRead.clear();
@@ -269,9 +279,10 @@ void StartScreen::renameScene(const QString &oldName, const QString &newName)
         return;
     const ProjectFolder::Change change = m_project.renameScene(scene->file, newName);
     if (!change.problem.isEmpty()) {
-        m_status->showProblem(change.problem);
+        reportFailure(tr("Rename scene"), change);
         return;
     }
+    showProjectChanged();
 
     const QString note = tr("\"%1\" is now called \"%2\".").arg(oldName, newName);
     // The table finds the first of several names that differ in case only, which need not be this one.
@@ -285,29 +296,51 @@ void StartScreen::renameScene(const QString &oldName, const QString &newName)
         return;
     }
     scene->file = change.scene;
-    m_table->renameScene(oldName, newName);
+    m_scenesPanel->renameScene(oldName, newName);
+    updateSelection();
     m_status->showNote(note);
 }
 
 void StartScreen::addScene()
 {
-    showAdded(m_project.addScene());
+    showAdded(m_project.addScene(), tr("New scene"));
 }
 
-void StartScreen::showAdded(const ProjectFolder::Change &change)
+void StartScreen::showAdded(const ProjectFolder::Change &change, const QString &problemTitle)
 {
     if (!change.problem.isEmpty()) {
-        m_status->showProblem(change.problem);
+        reportFailure(problemTitle, change);
         return;
     }
     m_sceneWhenRead = change.scene.name;
     m_noteWhenRead = tr("\"%1\" has been added.").arg(change.scene.name);
+    showProjectChanged();
     m_reader->readAlso(change.scene);
+}
+
+void StartScreen::reportFailure(const QString &title, const ProjectFolder::Change &change)
+{
+    const auto report = [this, title, problem = change.problem] { SceneQuestions::report(title, problem, window()); };
+    QMetaObject::invokeMethod(this, report, Qt::QueuedConnection);
+    const auto isIt = [&change](const SceneFacts &facts) { return facts.file.path == change.scene.path; };
+    if (std::any_of(m_scenes.cbegin(), m_scenes.cend(), isIt) && !QFileInfo(change.scene.path).isFile()) {
+        m_sceneWhenRead = neighbourOf(change.scene);
+        readScenes();
+    }
+}
+
+void StartScreen::showProjectChanged()
+{
+    const QList<VelmoProjectItem *> rows = m_projectsTable->findChildren<VelmoProjectItem *>();
+    for (VelmoProjectItem *row : rows) {
+        if (row->getPath() == m_project.path())
+            row->set(m_project.path(), m_project.lastModified().toString());
+    }
 }
 
 SceneFile StartScreen::selectedScene() const
 {
-    const int row = m_table->getSelectedRow();
+    const int row = m_scenesPanel->getSelectedRow();
     return row >= 0 && row < m_scenes.size() ? m_scenes[row].file : SceneFile();
 }
 
@@ -326,9 +359,11 @@ QString StartScreen::neighbourOf(const SceneFile &scene) const
     return before;
 }
 
-void StartScreen::updateOpening()
+void StartScreen::updateSelection()
 {
-    m_openButton->setEnabled(canOpen());
+    m_scenesPanel->setYesNoButtonEnabled(canOpen());
+    m_scenesPanel->setSceneButtonsEnabled(canOpen());
+    m_scenesPanel->showPreviewOf(selectedScene().path);
     emit selectionChanged();
 }
 

@@ -7,16 +7,15 @@
 
 class ElidedLabel;
 class QLabel;
-class QListWidget;
-class QPushButton;
 class QStackedWidget;
+class ScenesPanel;
 class StatusLine;
-class VelmoScenesTable;
+class VelmoProjectsTable;
 
 /// What the application opens with: the projects of a folder, and the scenes of the selected one.
 ///
-/// Scene files are read in the background while it stays usable. Renaming and adding scenes works on the files
-/// at once; what is refused is explained in the status line.
+/// Scene files are read in the background while it stays usable. Scenes are renamed, made, cloned and deleted on disk
+/// at once; why one of that cannot be done is told in a box.
 class StartScreen : public QWidget
 {
     Q_OBJECT
@@ -39,7 +38,8 @@ public:
     /// Asks in a box for another name of the selected scene. Nothing without one, as for the next two.
     void renameSelectedScene();
     void cloneSelectedScene();
-    /// Moves the selected scene to the trash, if the user agrees.
+    /// Moves the selected scene to the trash, if the user agrees. Where there is no trash, it goes for good if the user
+    /// agrees to that too.
     void deleteSelectedScene();
     /// Says what has gone wrong.
     void showProblem(const QString &text);
@@ -55,17 +55,21 @@ private:
     QWidget *createProjectsPanel();
     QWidget *createScenesPanel();
     void listProjects(const QString &folder);
-    void openProject(int row);
+    void openSelectedProject();
     void readScenes();
     void showScene(const SceneFacts &facts);
     void finishReading();
     void renameScene(const QString &oldName, const QString &newName);
     void addScene();
-    void showAdded(const ProjectFolder::Change &change);
+    void showAdded(const ProjectFolder::Change &change, const QString &problemTitle);
+    /// Tells it from the event loop: whoever has asked for the change is still at work. What has vanished goes from the
+    /// list.
+    void reportFailure(const QString &title, const ProjectFolder::Change &change);
+    void showProjectChanged();
     SceneFile selectedScene() const;
     /// The name of the scene to select when this one is gone: the next that can be selected, else the one before.
     QString neighbourOf(const SceneFile &scene) const;
-    void updateOpening();
+    void updateSelection();
     QString summary() const;
 
     QList<ProjectFolder> m_projects;
@@ -76,11 +80,10 @@ private:
     QString m_noteWhenRead;
     SceneReader *m_reader;
 
-    QListWidget *m_projectList = nullptr;
+    VelmoProjectsTable *m_projectsTable = nullptr;
     QStackedWidget *m_scenesStack = nullptr;
     QLabel *m_emptyNote = nullptr;
     ElidedLabel *m_scenesTitle = nullptr;
-    VelmoScenesTable *m_table = nullptr;
-    QPushButton *m_openButton = nullptr;
+    ScenesPanel *m_scenesPanel = nullptr;
     StatusLine *m_status;
 };

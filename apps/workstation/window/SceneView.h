@@ -1,7 +1,6 @@
 #pragma once
 
-#include "scenes/Scene.h"
-#include "window/ViewOptions.h"
+#include "window/SceneDrawing.h"
 
 #include <QWidget>
 
@@ -42,22 +41,8 @@ protected:
 private:
     /// From metres to logical pixels.
     QTransform sceneToView() const;
-    void decideColours();
-    void drawVehicles(QPainter &painter, const QTransform &transform) const;
-    void drawPeople(QPainter &painter, const QTransform &transform) const;
-    void drawTrails(QPainter &painter, const QTransform &transform) const;
-    void drawDensity(QPainter &painter, const QTransform &transform) const;
-    bool isBright(const SceneMover &mover) const;
-    /// Takes the mover's colour, dimmed unless it is highlighted.
-    void chooseColour(QPainter &painter, const SceneMover &mover, const QColor &colour) const;
 
-    Scene m_scene;
-    ViewOptions m_options;
-    QList<QColor> m_peopleColours;
-    QList<int> m_highlightedTags; // ids
-    QList<QList<QPointF>> m_trail;
-    QList<QPointF> m_goals;
-    QRectF m_bounds = m_scene.bounds(); // people may leave them
+    SceneDrawing m_drawing;
     QPointF m_centre; // of the view, in metres
     QPointF m_dragged;
 };
