@@ -3,6 +3,7 @@
 #include "look/Sheets.h"
 #include "panels/CrowdEditor.h"
 
+#include <VelmoCurtainWidget.h>
 #include <oVIXCombo.h>
 
 #include <QMainWindow>
@@ -35,7 +36,8 @@ ParametersPanel::ParametersPanel(QMainWindow *window)
     layout->setSpacing(8);
     layout->setAlignment(Qt::AlignTop);
 
-    oVIXCombo *colours = addCombo(tr("Colour by"));
+    VelmoCurtainWidget *view = addSection(tr("View"), tr("what is shown, and how"));
+    oVIXCombo *colours = addCombo(view, tr("Colour by"));
     for (const auto &[text, value] :
          {std::pair(tr("Tag"), ViewOptions::Colours::Tags), std::pair(tr("Type"), ViewOptions::Colours::Types),
           std::pair(tr("Goal"), ViewOptions::Colours::Goals)})
@@ -44,25 +46,24 @@ ParametersPanel::ParametersPanel(QMainWindow *window)
     onChoice(colours,
              [this, colours] { m_options.colours = ViewOptions::Colours(colours->getCurrentComboMeta().toInt()); });
 
-    m_zoom = addCombo(tr("Zoom"));
+    m_zoom = addCombo(view, tr("Zoom"));
     for (const double zoom : {0.5, 1.0, 2.0, 4.0})
         m_zoom->addItem(percentText(zoom), QString::number(zoom));
     setZoom(m_options.zoom);
     onChoice(m_zoom, [this] { m_options.zoom = m_zoom->getCurrentComboMeta().toDouble(); });
 
-    oVIXCombo *goals = addCombo(QString());
+    oVIXCombo *goals = addCombo(view, QString());
     goals->setYesNo(tr("Goals"));
     goals->setChecked(m_options.goals);
     onChoice(goals, [this, goals] { m_options.goals = goals->isChecked(); });
 
-    oVIXCombo *vehicles = addCombo(QString());
+    oVIXCombo *vehicles = addCombo(view, QString());
     vehicles->setYesNo(tr("Vehicles"));
     vehicles->setChecked(m_options.vehicles);
     onChoice(vehicles, [this, vehicles] { m_options.vehicles = vehicles->isChecked(); });
 
     m_crowd = new CrowdEditor(m_content);
-    layout->addSpacing(8);
-    layout->addWidget(m_crowd);
+    addSection(tr("Crowd"), tr("who walks, and how"))->addToContainerWidget(m_crowd);
 
     auto *area = new QScrollArea;
     area->setStyleSheet(Sheets::clearScrollArea());
@@ -90,12 +91,22 @@ void ParametersPanel::setZoom(double zoom)
     m_zoom->setComboText(percentText(zoom), QString::number(zoom));
 }
 
-oVIXCombo *ParametersPanel::addCombo(const QString &caption)
+VelmoCurtainWidget *ParametersPanel::addSection(const QString &title, const QString &subtitle)
+{
+    auto *section = new VelmoCurtainWidget(m_content);
+    section->setTitle(title);
+    section->setSubtitle(subtitle);
+    section->setFocusPolicy(Qt::StrongFocus);
+    m_content->layout()->addWidget(section);
+    return section;
+}
+
+oVIXCombo *ParametersPanel::addCombo(VelmoCurtainWidget *section, const QString &caption)
 {
     auto *combo = new oVIXCombo(m_content);
     combo->setText(caption);
     combo->setFocusPolicy(Qt::StrongFocus);
-    m_content->layout()->addWidget(combo);
+    section->addToContainerWidget(combo);
     return combo;
 }
 

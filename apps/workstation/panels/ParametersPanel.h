@@ -5,6 +5,7 @@
 #include <oVIXDock.h>
 
 class CrowdEditor;
+class VelmoCurtainWidget;
 class oVIXCombo;
 
 /// How the open scene is shown, and what its crowd is made of.
@@ -24,7 +25,8 @@ signals:
     void optionsChanged(const ViewOptions &options);
 
 private:
-    oVIXCombo *addCombo(const QString &caption);
+    VelmoCurtainWidget *addSection(const QString &title, const QString &subtitle);
+    oVIXCombo *addCombo(VelmoCurtainWidget *section, const QString &caption);
     /// Lets @p change alter the options when the user chooses in @p combo.
     template <class Change> void onChoice(oVIXCombo *combo, Change change);
 
