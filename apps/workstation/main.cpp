@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QSettings>
+#include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
@@ -131,7 +132,9 @@ int main(int argc, char **argv)
     switch (line.task) {
     case CommandLine::Task::StartScreen: {
         QSettings settings;
-        return run(std::make_unique<WorkstationWindow>(projectsFolder, &settings));
+        auto window = std::make_unique<WorkstationWindow>(projectsFolder, &settings);
+        QTimer::singleShot(0, window.get(), &WorkstationWindow::beginOnboarding); // over the window on screen
+        return run(std::move(window));
     }
     case CommandLine::Task::Gallery:
         return openGallery(line.galleryPage);

@@ -68,6 +68,14 @@ void LibraryPanel::showThumbnails(int size)
     fill();
 }
 
+void LibraryPanel::selectType(const QString &type)
+{
+    if (const QModelIndex index = indexOf(type); index.isValid())
+        m_list->setCurrentIndex(index);
+    else
+        m_list->clearSelection();
+}
+
 void LibraryPanel::fill()
 {
     const QString selected = selectedType();
@@ -84,9 +92,8 @@ void LibraryPanel::fill()
     }
 
     // The list has forgotten its selection without a word.
-    const QModelIndexList found = m_found->match(m_found->index(0, 0), typeRole, selected, 1, Qt::MatchExactly);
-    if (!selected.isEmpty() && !found.isEmpty())
-        m_list->setCurrentIndex(found.first());
+    if (const QModelIndex index = indexOf(selected); index.isValid())
+        m_list->setCurrentIndex(index);
     else
         emit typeSelected(QString());
 }
@@ -95,4 +102,12 @@ QString LibraryPanel::selectedType() const
 {
     const QModelIndexList selected = m_list->selectionModel()->selectedIndexes();
     return selected.isEmpty() ? QString() : selected.first().data(typeRole).toString();
+}
+
+QModelIndex LibraryPanel::indexOf(const QString &type) const
+{
+    if (type.isEmpty())
+        return {};
+    const QModelIndexList found = m_found->match(m_found->index(0, 0), typeRole, type, 1, Qt::MatchExactly);
+    return found.value(0);
 }

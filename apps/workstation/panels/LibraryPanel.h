@@ -4,6 +4,8 @@
 
 #include <oVIXDock.h>
 
+#include <QModelIndex>
+
 class QListView;
 class QSortFilterProxyModel;
 class QStandardItemModel;
@@ -20,6 +22,8 @@ public:
     void setScene(const Scene &scene);
     /// Edge of the pictures: 0 for names only. Any other number is one of the header's sizes.
     void showThumbnails(int size);
+    /// Selects a kind; none when it is not listed.
+    void selectType(const QString &type);
 
 signals:
     /// Another kind has been selected; empty for none.
@@ -28,6 +32,8 @@ signals:
 private:
     void fill();
     QString selectedType() const;
+    /// Invalid for an empty type and for one that is not listed.
+    QModelIndex indexOf(const QString &type) const;
 
     QList<LibraryEntry> m_entries;
     QStandardItemModel *m_model;

@@ -7,8 +7,11 @@
 #include "window/ScenePage.h"
 #include "window/WorkstationWindow.h"
 
+#include <VelmoFeedbackConsentDialog.h>
 #include <VelmoMessageBox.h>
+#include <oVIXGuideOverlay.h>
 
+#include <QAbstractAnimation>
 #include <QApplication>
 #include <QCursor>
 #include <QDeadlineTimer>
@@ -18,7 +21,10 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QProcess>
+#include <QPushButton>
 #include <QScreen>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <atomic>
@@ -122,6 +128,25 @@ bool waitUntilBaked(const ScenePage *page)
     return !page->bake().isRunning();
 }
 
+/// The steps of the tour over what the window shows.
+bool drawTour(PictureFolder &pictures, WorkstationWindow *window, const QString &name)
+{
+    window->showTour();
+    settle();
+    bool good = true;
+    for (int step = 1;; ++step) {
+        auto *tour = window->findChild<oVIXGuideOverlay *>();
+        if (!tour)
+            return good;
+        for (QAbstractAnimation *transition : tour->findChildren<QAbstractAnimation *>())
+            transition->stop();
+        tour->setAnimationProgress(1.0F);
+        good = pictures.save(pictureOf(window), u"%1 tour %2"_s.arg(name).arg(step)) && good;
+        tour->findChild<QPushButton *>(u"nextButton"_s)->click();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
 bool drawWindow(PictureFolder &pictures, const QString &projectsFolder)
 {
     WorkstationWindow window(projectsFolder);
@@ -138,6 +163,14 @@ bool drawWindow(PictureFolder &pictures, const QString &projectsFolder)
         good = pictures.save(pictureOf(&window), u"start "_s + projects[row].name()) && good;
     }
 
+    good = drawTour(pictures, &window, u"start"_s) && good;
+    (new VelmoFeedbackConsentDialog(&window))->open();
+    good = pictures.save(pictureWithDialog(&window), u"start consent"_s) && good;
+    delete window.findChild<QDialog *>(QString(), Qt::FindDirectChildrenOnly);
+    window.showAbout();
+    good = pictures.save(pictureWithDialog(&window), u"start about"_s) && good;
+    delete window.findChild<QDialog *>(QString(), Qt::FindDirectChildrenOnly);
+
     if (!screen->canOpen()) // a folder without scenes
         return good;
     screen->openSelectedScene();
@@ -146,6 +179,7 @@ bool drawWindow(PictureFolder &pictures, const QString &projectsFolder)
         return false;
     }
     good = pictures.save(pictureOf(&window), u"scene"_s) && good;
+    good = drawTour(pictures, &window, u"scene"_s) && good;
     ScenePage *page = window.scenePage();
     page->toggleBaking();
     if (!waitUntilBaked(page)) {
@@ -224,6 +258,9 @@ int Shots::drawAtAllScales(const QString &folder, const QString &projectsFolder,
 int Shots::draw(const QString &folder, const QString &projectsFolder, double scale)
 {
     const WarningCounter warnings;
+    const QTemporaryDir settings; // nobody's
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
     QApplication::setCursorFlashTime(0);
     QCursor::setPos(QGuiApplication::primaryScreen()->virtualGeometry().bottomRight()); // over nothing
     PictureFolder pictures(folder, scale);

@@ -1,7 +1,9 @@
 #include "window/SceneView.h"
 
 #include "look/Palette.h"
+#include "window/MoverAt.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
@@ -18,6 +20,8 @@ constexpr double zoomOfWheelStep = 1.25;
 SceneView::SceneView(QWidget *parent) : QWidget(parent)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    showPointer(VelmoCursor::OpenHand);
 }
 
 void SceneView::setScene(const Scene &scene)
@@ -83,20 +87,63 @@ void SceneView::wheelEvent(QWheelEvent *event)
     m_centre = under + (m_centre - under) * options().zoom / zoom;
     m_drawing.setZoom(zoom);
     update();
+    if (event->buttons() == Qt::NoButton)
+        showPointer(VelmoCursor::Zoom); // until the pointer moves
     emit zoomChanged(zoom);
 }
 
 void SceneView::mousePressEvent(QMouseEvent *event)
 {
-    m_dragged = event->position();
+    if (event->button() != Qt::LeftButton)
+        return;
+    m_pressed = m_dragged = event->position();
+    m_isDragging = false;
+    showPointer(moverUnder(m_pressed) ? VelmoCursor::Pick : VelmoCursor::ClosedHand);
 }
 
 void SceneView::mouseMoveEvent(QMouseEvent *event)
 {
+    if (!(event->buttons() & Qt::LeftButton)) {
+        showPointerAt(event->position());
+        return;
+    }
+    const double way = (event->position() - m_pressed).manhattanLength();
+    if (!m_isDragging && way < QApplication::startDragDistance())
+        return;
+    m_isDragging = true;
+    showPointer(VelmoCursor::ClosedHand);
     const QTransform toScene = sceneToView().inverted();
     m_centre += toScene.map(m_dragged) - toScene.map(event->position());
     m_dragged = event->position();
     update();
+}
+
+void SceneView::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton)
+        return;
+    showPointerAt(event->position());
+    if (m_isDragging)
+        return;
+    const SceneMover *mover = moverUnder(m_pressed);
+    emit moverPicked(mover ? mover->type : QString());
+}
+
+const SceneMover *SceneView::moverUnder(QPointF point) const
+{
+    return moverAt(scene(), options(), sceneToView(), point);
+}
+
+void SceneView::showPointer(VelmoCursor::Shape shape)
+{
+    const QCursor pointer = VelmoCursor::cursorFor(shape, this);
+    if (pointer != cursor())
+        setCursor(pointer);
+}
+
+void SceneView::showPointerAt(QPointF point)
+{
+    showPointer(moverUnder(point) ? VelmoCursor::Pick : VelmoCursor::OpenHand);
 }
 
 QTransform SceneView::sceneToView() const

@@ -2,9 +2,12 @@
 
 #include "window/SceneDrawing.h"
 
+#include <VelmoCursor.h>
+
 #include <QWidget>
 
-/// A scene seen from above: ground, walls, people and vehicles. The wheel zooms at the pointer, a drag moves the scene.
+/// A scene seen from above: ground, walls, people and vehicles. The wheel zooms at the pointer, a drag moves the scene,
+/// a click picks somebody.
 class SceneView : public QWidget
 {
     Q_OBJECT
@@ -31,18 +34,26 @@ public:
 signals:
     /// The user has zoomed.
     void zoomChanged(double zoom);
+    /// The user has clicked on a person or vehicle of this type; empty for the ground.
+    void moverPicked(const QString &type);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
     /// From metres to logical pixels.
     QTransform sceneToView() const;
+    const SceneMover *moverUnder(QPointF point) const;
+    void showPointer(VelmoCursor::Shape shape);
+    void showPointerAt(QPointF point);
 
     SceneDrawing m_drawing;
     QPointF m_centre; // of the view, in metres
+    QPointF m_pressed;
     QPointF m_dragged;
+    bool m_isDragging = false;
 };

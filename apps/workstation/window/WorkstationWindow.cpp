@@ -1,5 +1,6 @@
 #include "window/WorkstationWindow.h"
 
+#include "onboarding/Onboarding.h"
 #include "panels/CrowdEditor.h"
 #include "panels/LibraryPanel.h"
 #include "panels/ParametersPanel.h"
@@ -8,8 +9,10 @@
 #include "window/SceneFactsDialog.h"
 #include "window/ScenePage.h"
 #include "window/SceneView.h"
+#include "window/WaitPicture.h"
 #include "window/WelcomeDialog.h"
 
+#include <VelmoAboutDialog.h>
 #include <oVIXMinMaxCloseWidget.h>
 #include <oVIXTitleBar.h>
 #include <oVIXWindowWaitGlobal.h>
@@ -42,9 +45,9 @@ static void useResources()
 }
 
 WorkstationWindow::WorkstationWindow(const QString &projectsFolder, QSettings *settings)
-    : m_pages(new QStackedWidget(this)), m_startScreen(new StartScreen(projectsFolder, m_pages)),
-      m_scenePage(new ScenePage(m_pages)), m_projectsFolder(projectsFolder), m_settings(settings),
-      m_loading(getWindowWait(), getWindowWait())
+    : m_onboarding(new Onboarding(this, settings)), m_pages(new QStackedWidget(this)),
+      m_startScreen(new StartScreen(projectsFolder, m_pages)), m_scenePage(new ScenePage(m_pages)),
+      m_projectsFolder(projectsFolder), m_settings(settings), m_loading(getWindowWait(), getWindowWait())
 {
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     setWindowTitle(QGuiApplication::applicationDisplayName());
@@ -55,6 +58,7 @@ WorkstationWindow::WorkstationWindow(const QString &projectsFolder, QSettings *s
     createPanels();
     createMenus();
     createTitleBar();
+    new WaitPicture(getWindowWait());
     resize(startSize);
     restoreLayout();
 
@@ -140,6 +144,23 @@ void WorkstationWindow::showWelcome()
     (new WelcomeDialog(m_projectsFolder, this))->open();
 }
 
+void WorkstationWindow::showAbout()
+{
+    auto *dialog = new VelmoAboutDialog(this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
+void WorkstationWindow::beginOnboarding()
+{
+    m_onboarding->begin();
+}
+
+void WorkstationWindow::showTour()
+{
+    m_onboarding->showTour();
+}
+
 void WorkstationWindow::changeEvent(QEvent *event)
 {
     oVIXMainWindow::changeEvent(event);
@@ -192,6 +213,9 @@ void WorkstationWindow::createMenus()
 
     QMenu *help = menuBar()->addMenu(tr("Help"));
     help->addAction(tr("Welcome"), QKeySequence::HelpContents, this, &WorkstationWindow::showWelcome);
+    help->addAction(tr("Guided tour"), this, &WorkstationWindow::showTour);
+    help->addSeparator();
+    help->addAction(tr("About"), this, &WorkstationWindow::showAbout);
 }
 
 void WorkstationWindow::createTitleBar()
@@ -228,6 +252,7 @@ void WorkstationWindow::createPanels()
         options.mode = view->options().mode;
         view->setOptions(options);
     });
+    connect(view, &SceneView::moverPicked, m_library, &LibraryPanel::selectType);
     connect(view, &SceneView::zoomChanged, m_parameters, &ParametersPanel::setZoom);
 
     connect(m_tags, &TagsPanel::filterChanged, this, [view](const QString &tag) {
@@ -248,6 +273,7 @@ void WorkstationWindow::createPanels()
 
 void WorkstationWindow::showPage(QWidget *page)
 {
+    m_onboarding->endTour();
     // The smallest size of the other page does not count.
     for (QWidget *each : std::initializer_list<QWidget *>{m_startScreen, m_scenePage}) {
         const auto policy = each == page ? QSizePolicy::Preferred : QSizePolicy::Ignored;

@@ -7,6 +7,7 @@
 #include <QTimer>
 
 class LibraryPanel;
+class Onboarding;
 class ParametersPanel;
 class QAction;
 class QDockWidget;
@@ -25,7 +26,7 @@ class WorkstationWindow : public oVIXMainWindow
 
 public:
     /// @p projectsFolder may be missing: the start screen says so. @p settings keep the place of the window and of its
-    /// panels; null forgets them. They have to live longer.
+    /// panels, and whether the tour is to be seen again; null forgets them. They have to live longer.
     explicit WorkstationWindow(const QString &projectsFolder, QSettings *settings = nullptr);
     ~WorkstationWindow() override;
 
@@ -44,6 +45,11 @@ public:
     /// Opens the dialog about the open scene.
     void showSceneFacts();
     void showWelcome();
+    void showAbout();
+    /// What new users are shown at the start of the application: see `Onboarding`. A window never does it by itself.
+    void beginOnboarding();
+    /// Shows the guided tour of what the window shows.
+    void showTour();
 
 signals:
     /// The load that `openScene` has begun is over, for good or bad.
@@ -71,6 +77,7 @@ private:
     void endLoading();
     void updateActions();
 
+    Onboarding *m_onboarding;
     QStackedWidget *m_pages;
     StartScreen *m_startScreen;
     ScenePage *m_scenePage;
