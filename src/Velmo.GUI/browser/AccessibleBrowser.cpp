@@ -122,20 +122,15 @@ private:
     }
 };
 
-template <class Interface> QAccessibleInterface *make(QWidget *widget)
-{
-    return new Interface(widget);
-}
-
 } // namespace
 
 void AccessibleBrowser::install()
 {
     static const bool added = [] {
-        AccessibleWidgets::add("VelmoProjectItem", make<AccessibleRow<VelmoProjectItem>>);
-        AccessibleWidgets::add("VelmoSceneItem", make<AccessibleSceneItem>);
-        AccessibleWidgets::add("SceneToggle", make<AccessibleSceneToggle>);
-        AccessibleWidgets::add("CurtainArrow", make<AccessibleCurtainArrow>);
+        AccessibleWidgets::add<AccessibleRow<VelmoProjectItem>>("VelmoProjectItem");
+        AccessibleWidgets::add<AccessibleSceneItem>("VelmoSceneItem");
+        AccessibleWidgets::add<AccessibleSceneToggle>("SceneToggle");
+        AccessibleWidgets::add<AccessibleCurtainArrow>("CurtainArrow");
         return true;
     }();
     Q_UNUSED(added)

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // clang-format off
-QString tableSheet()
+QString projectsTableSheet()
 {
     return u"#backgroundWidget {\tborder-radius:4px;\tbackground-color:rgb(59,59,59);}"
             "QListWidget { background-color:transparent; }"
@@ -25,7 +25,7 @@ VelmoProjectsTable::VelmoProjectsTable(QWidget *parent) : QWidget(parent), m_ui(
 {
     m_ui->setupUi(this);
     connect(m_ui->listWidget, &QListWidget::itemSelectionChanged, this, &VelmoProjectsTable::listSelectionChanged);
-    setStyleSheet(tableSheet());
+    setStyleSheet(projectsTableSheet());
 }
 
 VelmoProjectsTable::~VelmoProjectsTable() = default;

@@ -57,18 +57,13 @@ private:
     oVIXCombo *combo() const { return static_cast<oVIXCombo *>(widget()); }
 };
 
-template <class Interface> QAccessibleInterface *make(QWidget *widget)
-{
-    return new Interface(widget);
-}
-
 } // namespace
 
 void AccessibleChoosers::install()
 {
     static const bool added = [] {
-        AccessibleWidgets::add("oVIXButton", make<AccessibleButton>);
-        AccessibleWidgets::add("oVIXCombo", make<AccessibleCombo>);
+        AccessibleWidgets::add<AccessibleButton>("oVIXButton");
+        AccessibleWidgets::add<AccessibleCombo>("oVIXCombo");
         return true;
     }();
     Q_UNUSED(added)

@@ -116,20 +116,15 @@ void announce(QWidget *widget, QAccessible::State changed)
     QAccessible::updateAccessibility(&event);
 }
 
-template <class Interface> QAccessibleInterface *make(QWidget *widget)
-{
-    return new Interface(widget);
-}
-
 } // namespace
 
 void AccessibleWidgets::install()
 {
     static const bool filled = [] {
-        add("OvixSvgLabel", make<AccessibleIcon>);
-        add("OvixSvgButton", make<AccessibleIconButton>);
-        add("QClickableLabel", make<AccessibleClickableLabel>);
-        add("QClickableWidget", make<AccessibleClickableWidget>);
+        add<AccessibleIcon>("OvixSvgLabel");
+        add<AccessibleIconButton>("OvixSvgButton");
+        add<AccessibleClickableLabel>("QClickableLabel");
+        add<AccessibleClickableWidget>("QClickableWidget");
         return true;
     }();
     Q_UNUSED(filled)

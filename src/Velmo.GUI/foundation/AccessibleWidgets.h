@@ -13,6 +13,11 @@ void install();
 
 /// Makes the factory use @p create for the class of this name and those derived from it.
 void add(const char *className, Creator create);
+/// The same with an interface that is made of the widget alone.
+template <class Interface> void add(const char *className)
+{
+    add(className, [](QWidget *widget) -> QAccessibleInterface * { return new Interface(widget); });
+}
 
 /// Tells assistive tools that the widget's checked state has changed.
 void announceChecked(QWidget *widget);

@@ -32,7 +32,7 @@ QString pageSheet()
 }
 
 /// Of the text inside the page: the default blue can hardly be read on the dark ground.
-QString linkSheet()
+QString noticeLinkSheet()
 {
     return u"a { color:rgb(116, 211, 252); }"_s;
 }
@@ -80,7 +80,7 @@ VelmoAboutDialog::~VelmoAboutDialog() = default;
 void VelmoAboutDialog::showPage(QTextBrowser *browser, const QString &path)
 {
     browser->setStyleSheet(pageSheet());
-    browser->document()->setDefaultStyleSheet(linkSheet());
+    browser->document()->setDefaultStyleSheet(noticeLinkSheet());
     browser->setHtml(readPage(path));
     connect(browser, &QTextBrowser::anchorClicked, this, &VelmoAboutDialog::openLink);
 }

@@ -83,7 +83,7 @@ QString footerSheet()
     return u"QLabel { color: rgb(156,156,156); font: Inter; font-size:9px;}"_s;
 }
 
-QString okSheet()
+QString okButtonSheet()
 {
     return u"QPushButton { border:1px solid rgb(22, 129, 189); border-radius:4px;"
            " background-color:rgb(22, 129, 189); color:rgb(255,255,255); }"
@@ -208,7 +208,7 @@ void VelmoFeedbackConsentDialog::addFooter(QVBoxLayout *layout)
     ok->setObjectName(u"okButton"_s);
     ok->setFixedSize(okSize);
     ok->setDefault(true);
-    ok->setStyleSheet(okSheet());
+    ok->setStyleSheet(okButtonSheet());
     connect(ok, &QPushButton::clicked, this, &VelmoFeedbackConsentDialog::onOkButtonClicked);
     auto *row = new QHBoxLayout;
     row->addWidget(footer, 1);

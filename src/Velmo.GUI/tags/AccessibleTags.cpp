@@ -39,18 +39,13 @@ public:
     }
 };
 
-template <class Interface> QAccessibleInterface *make(QWidget *widget)
-{
-    return new Interface(widget);
-}
-
 } // namespace
 
 void AccessibleTags::install()
 {
     static const bool added = [] {
-        AccessibleWidgets::add("oVIXDragTag", make<AccessibleDragTag>);
-        AccessibleWidgets::add("oVIXTagListWidgetItem", make<AccessibleTagListItem>);
+        AccessibleWidgets::add<AccessibleDragTag>("oVIXDragTag");
+        AccessibleWidgets::add<AccessibleTagListItem>("oVIXTagListWidgetItem");
         return true;
     }();
     Q_UNUSED(added)

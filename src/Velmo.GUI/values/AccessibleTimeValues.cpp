@@ -67,18 +67,13 @@ public:
     void setCurrentValue(const QVariant &) override { }
 };
 
-template <class Interface> QAccessibleInterface *make(QWidget *widget)
-{
-    return new Interface(widget);
-}
-
 } // namespace
 
 void AccessibleTimeValues::install()
 {
     static const bool filled = [] {
-        AccessibleWidgets::add("OvixMovableLabel", make<AccessibleMarker>);
-        AccessibleWidgets::add("oVIXFloatingProgressBar", make<AccessibleFloatingBar>);
+        AccessibleWidgets::add<AccessibleMarker>("OvixMovableLabel");
+        AccessibleWidgets::add<AccessibleFloatingBar>("oVIXFloatingProgressBar");
         return true;
     }();
     Q_UNUSED(filled)

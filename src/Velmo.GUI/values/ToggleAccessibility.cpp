@@ -47,18 +47,13 @@ private:
     OvixSvgButton *button() const { return static_cast<OvixSvgButton *>(widget()); }
 };
 
-template <class Interface> QAccessibleInterface *make(QWidget *widget)
-{
-    return new Interface(widget);
-}
-
 } // namespace
 
 void installToggleAccessibility()
 {
     static const bool filled = [] {
-        AccessibleWidgets::add("oVIXToggle", make<AccessibleToggle>);
-        AccessibleWidgets::add("ToggleButton", make<AccessibleToggleButton>);
+        AccessibleWidgets::add<AccessibleToggle>("oVIXToggle");
+        AccessibleWidgets::add<AccessibleToggleButton>("ToggleButton");
         return true;
     }();
     Q_UNUSED(filled)

@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr double radius = 2.5;
-const QColor trackColour(39, 39, 39);
+constexpr double cornerRadius = 2.5;
+const QColor groundColour(39, 39, 39);
 const QColor doneColour(59, 59, 59);
 const QColor cropColour(81, 81, 81);
 const QColor playedColour(116, 211, 252);
@@ -19,7 +19,7 @@ void drawBand(QPainter &painter, const QRect &bar, const BarBands::Band &band, c
     if (band.right <= band.left)
         return;
     QPainterPath path;
-    path.addRoundedRect(QRectF(band.left, bar.top(), band.right - band.left, bar.height()), radius, radius);
+    path.addRoundedRect(QRectF(band.left, bar.top(), band.right - band.left, bar.height()), cornerRadius, cornerRadius);
     painter.fillPath(path, colour);
 }
 
@@ -73,7 +73,7 @@ void oVIXProgressBar::draw(QRect &rect)
         barBands({maximum(), value(), m_cropStart, m_cropEnd, m_playValue}, rect.left(), rect.width());
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    drawBand(painter, rect, {double(rect.left()), double(rect.left()) + rect.width()}, trackColour);
+    drawBand(painter, rect, {double(rect.left()), double(rect.left()) + rect.width()}, groundColour);
     drawBand(painter, rect, bands.done, doneColour);
     drawBand(painter, rect, bands.crop, cropColour);
     drawBand(painter, rect, bands.played, playedColour);
