@@ -1,14 +1,13 @@
 // What a slider costs: a step of a drag on the bar alone and in a panel, and a panel full of them until it is on
 // screen.
 
+#include "ApplicationSheet.h"
 #include "Limited.h"
-#include "foundation/oVIXStyle.h"
 #include "values/oVIXSliderBar.h"
 #include "values/oVIXSliderWidget.h"
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QMouseEvent>
@@ -42,15 +41,6 @@ void settle()
     for (int turn = 0; turn < 4; ++turn)
         QCoreApplication::processEvents();
 }
-
-/// The application-wide sheet, while it lives.
-class ApplicationSheet
-{
-public:
-    ApplicationSheet() { qApp->setStyleSheet(oVIXStyle::getAppStyleSheet()); }
-    ~ApplicationSheet() { qApp->setStyleSheet(QString()); }
-    Q_DISABLE_COPY_MOVE(ApplicationSheet)
-};
 
 template <class Label> std::unique_ptr<Label> createBar(QWidget &window)
 {

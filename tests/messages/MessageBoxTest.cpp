@@ -26,6 +26,8 @@
 #include <malloc.h>
 #endif
 
+#include <climits>
+#include <ctime>
 #include <functional>
 
 using namespace Qt::StringLiterals;
@@ -91,6 +93,8 @@ private slots:
         QCOMPARE(returnCodeOf(0), MsgRejected);
         QCOMPARE(returnCodeOf(7), MsgRejected);
         QCOMPARE(returnCodeOf(3), MsgOther);
+        QVERIFY(!hasTooDeepTables(u"<table></table>"_s.repeated(20)));
+        QVERIFY(hasTooDeepTables(u"<TABLE>"_s.repeated(9)));
     }
 
     void isAsHighAsItsText()
@@ -116,6 +120,29 @@ private slots:
             shown->fnOther();
         });
         QCOMPARE(VelmoWarningMessage(u"t"_s, u"text"_s, 300, nullptr, nullptr), MsgOther);
+        onceShown([](Box *shown) { shown->fnOther(); });
+        QCOMPARE(VelmoWarningMessage(u"t"_s, u"text"_s, INT_MAX, nullptr, nullptr), MsgOther);
+    }
+
+    void takesAnyBody_data()
+    {
+        QTest::addColumn<QString>("piece");
+        for (const char *piece :
+             {"x", "word ", "\n", "<b>", "<ul><li>", "<table><tr><td>", "<p>&amp;",
+              "<a href=\"file:///dev/zero\">link</a> ", "<img src=\"file:///dev/zero\" width=99999999 height=99999999>",
+              "<link rel=stylesheet href=\"file:///dev/zero\">"})
+            QTest::newRow(piece) << QString::fromLatin1(piece);
+    }
+    void takesAnyBody()
+    {
+        QFETCH(QString, piece);
+        Box box(u"KIND"_s, u"t"_s, false, nullptr, nullptr);
+        const std::clock_t before = std::clock(); // of the processor, which a busy machine does not change
+        box.setText(piece.repeated(1000000 / piece.size()));
+        Gestures::show(&box);
+        const double seconds = double(std::clock() - before) / CLOCKS_PER_SEC;
+        QVERIFY2(seconds < 10, qPrintable(QString::number(seconds))); // without limits it takes minutes
+        QVERIFY(box.height() <= 630);
     }
 
     void setsItsButtons()
@@ -305,15 +332,27 @@ private slots:
     void leavesNoMemoryBehind()
     {
         QWidget parent;
-        const auto run = [&parent](int boxes) {
+        QString edited = u"name"_s;
+        const QString a = u"a"_s;
+        const QList<std::function<Code()>> functions{
+            [&] { return VelmoInfoMessage(a, a, &parent, nullptr); },
+            [&] { return VelmoWarningMessage(a, a, 300, &parent, nullptr); },
+            [&] { return VelmoQuestionMessage(a, a, nullptr, nullptr); },
+            [&] { return VelmoEditMessage(a, a, &edited, &parent, nullptr); },
+            [&] { return VelmoThreeOptionMessage(a, a, a, a, &parent, nullptr); },
+            [&] { return VelmoCustomMessage(a, a, a, a, a, true, &parent, nullptr); },
+            [&] { return VelmoCustomThreeOptionMessage(a, a, a, a, a, false, 1, &parent, nullptr); },
+        };
+        const auto heapAfter = [&functions](int boxes) {
             for (int i = 0; i < boxes; ++i) {
                 QTimer::singleShot(0, qApp, [] { qobject_cast<Box *>(QApplication::activeModalWidget())->fnAccept(); });
-                VelmoQuestionMessage(u"t"_s, u"body"_s, &parent, nullptr);
+                functions[i % functions.size()]();
             }
-            return qint64(mallinfo2().uordblks);
+            const struct mallinfo2 heap = mallinfo2();
+            return qint64(heap.uordblks + heap.hblkhd);
         };
-        const qint64 before = run(50);
-        const qint64 growth = run(1000) - before;
+        const qint64 before = heapAfter(70);
+        const qint64 growth = heapAfter(1000) - before;
         QVERIFY2(growth < 64 * 1024, qPrintable(QString::number(growth)));
     }
 #endif

@@ -50,6 +50,7 @@ private slots:
         QCOMPARE(bar.cancel->width(), 20);
         QCOMPARE(bar.cancel->geometry().left(), bar.ok->geometry().right() + 1);
         QCOMPARE(bar.findChild<OvixSvgLabel *>(u"cancelLabel"_s)->size(), QSize(15, 15));
+        QCOMPARE(bar.childAt(bar.cancel->mapTo(&bar, bar.cancel->rect().center())), bar.cancel);
         QCOMPARE(bar.ok->styleSheet(), okSheet(u"rgb(156,156,156)"_s, u"rgb(81,81,81)"_s, u"rgb(156,156,156)"_s));
 
         QSignalSpy accepted(&bar, &VelmoYesNoWidget::accept);

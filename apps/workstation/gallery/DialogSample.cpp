@@ -21,5 +21,6 @@ QWidget *createDialogSample(const QPixmap &picture, const QString &caption, cons
     button->setAccessibleName(QCoreApplication::translate("DialogSample", "Open: %1").arg(caption));
     QObject::connect(button, &QPushButton::clicked, sample, open);
     layout->addWidget(button, 0, Qt::AlignCenter);
+    layout->addStretch();
     return sample;
 }

@@ -12,6 +12,32 @@ inline int boxHeight(int least, int leastText, int mostText, double textHeight)
     return least + std::max(std::min(mostText, int(textHeight)) - leastText, 0);
 }
 
+/// What is shown of a body. Nobody reads more in a box, and the toolkit would lay out a million characters for minutes.
+inline QString shownBody(const QString &text)
+{
+    constexpr int longest = 20000;
+    if (text.size() <= longest)
+        return text;
+    return text.left(text[longest - 1].isHighSurrogate() ? longest - 1 : longest) + QChar(0x2026);
+}
+
+/// Whether tables stand in tables so deep that the toolkit never ends: each level takes it twice as long.
+inline bool hasTooDeepTables(const QString &text)
+{
+    constexpr int deepest = 8;
+    int depth = 0;
+    for (qsizetype at = text.indexOf(QLatin1Char('<')); at >= 0; at = text.indexOf(QLatin1Char('<'), at + 1)) {
+        const QStringView tag = QStringView(text).mid(at + 1, 6);
+        if (tag.startsWith(QLatin1String("table"), Qt::CaseInsensitive))
+            ++depth;
+        else if (tag.startsWith(QLatin1String("/table"), Qt::CaseInsensitive))
+            depth = std::max(depth - 1, 0);
+        if (depth > deepest)
+            return true;
+    }
+    return false;
+}
+
 /// What the OK half says while the box waits, and afterwards.
 inline QString countdownText(const QString &text, int seconds)
 {

@@ -18,6 +18,7 @@ constexpr int tick = 1000; // ms
 constexpr int otherWidth = 84;
 constexpr int otherPadding = 30;
 constexpr int bodyPadding = 10;
+constexpr int tallest = 10000; // more than any screen, with room for the title strip
 
 /// Until there is a body.
 QString emptyBodySheet()
@@ -58,7 +59,7 @@ VelmoMessageWidget *createBox(const QString &kind, const QString &title, const Q
     auto *box = new VelmoMessageWidget(kind, title, stayOnTop, parent, screen);
     box->setText(text);
     if (height > 0)
-        box->setFixedHeight(height);
+        box->setFixedHeight(qMin(height, tallest));
     return box;
 }
 
@@ -105,7 +106,11 @@ void VelmoMessageWidget::setText(QString text)
     QTextBrowser *browser = m_ui->textBrowser;
     setSheetOnChange(browser, bodySheet());
     browser->ensurePolished(); // the text is measured in the font of the style sheets
-    browser->setText(text);
+    const QString shown = shownBody(text);
+    if (hasTooDeepTables(shown))
+        browser->setPlainText(shown);
+    else
+        browser->setText(shown);
     browser->setAlignment(Qt::AlignVCenter);
     // As wide as it is going to be shown: a browser that was never shown lays its text out in a narrow column.
     const QMargins margins = layout()->contentsMargins();

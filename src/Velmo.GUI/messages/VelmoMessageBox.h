@@ -44,7 +44,8 @@ public:
     ~VelmoMessageWidget() override;
 
     /// The body, plain or rich; sets the height of the box. What it names is not read, and its links lead nowhere.
-    /// Callers escape names given by users.
+    /// Callers escape names given by users. Of more than 20,000 characters the first are shown; a text with tables more
+    /// than eight deep in tables is shown as it is written.
     void setText(QString text);
     /// The text of the line edit.
     void setEditText(QString text);

@@ -63,6 +63,7 @@ VelmoYesNoWidget::VelmoYesNoWidget(QWidget *parent)
     m_ui->widgetButtons->setStyleSheet(u"background-color:rgb(40,40,40);"_s);
     m_ui->cancelButton->setStyleSheet(cancelSheet());
     m_ui->cancelButton->setAccessibleName(tr("Cancel"));
+    m_ui->cancelLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_ui->cancelLabel->setFilename(u":/Windows/CancelCross"_s);
     m_ui->cancelLabel->paintEventUpdate(); // or its first paint would show the sheet of the buttons
     setCaptionColor(QColor(22, 129, 189));
