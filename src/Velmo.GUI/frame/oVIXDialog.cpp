@@ -13,13 +13,13 @@
 using namespace Qt::StringLiterals;
 
 oVIXDialog::oVIXDialog(bool withBlock, bool withWait, bool stayOnTop, QWidget *parent, QScreen *screen)
-    : QDialog(parent), m_title(new oVIXDialogTitle(this)), m_primaryScreen(screen)
+    : QDialog(parent,
+              Qt::Dialog | Qt::FramelessWindowHint | (stayOnTop ? Qt::WindowStaysOnTopHint : Qt::WindowFlags())),
+      m_primaryScreen(screen)
 {
-    Qt::WindowFlags flags = Qt::Dialog | Qt::FramelessWindowHint;
-    flags.setFlag(Qt::WindowStaysOnTopHint, stayOnTop);
-    setWindowFlags(flags);
     setSizeGripEnabled(false);
-    setStyleSheet(u"oVIXDialog {\tbackground:rgb(39,39,39);}"_s);
+    setStyleSheet(u"oVIXDialog {\tbackground:rgb(39,39,39);}"_s); // before it would restyle children
+    m_title = new oVIXDialogTitle(this);
     m_title->move(0, 0);
     connect(m_title, &oVIXDialogTitle::closeClicked, this, &oVIXDialog::reject);
     setupTitle(tr("DIALOG"), tr("Untitled"));
@@ -131,6 +131,14 @@ bool oVIXDialog::eventFilter(QObject *watched, QEvent *event)
     return QDialog::eventFilter(watched, event);
 }
 
+void oVIXDialog::setVisible(bool visible)
+{
+    // A window that is placed while it is being shown is not where the toolkit takes it to be on every system.
+    if (visible && !isVisible())
+        prepareToShow();
+    QDialog::setVisible(visible);
+}
+
 void oVIXDialog::showEvent(QShowEvent *event)
 {
     adjustToTitle();
@@ -142,6 +150,15 @@ void oVIXDialog::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
     m_title->setFixedWidth(width());
+    autocenter();
+}
+
+void oVIXDialog::prepareToShow()
+{
+    ensurePolished();
+    if (!testAttribute(Qt::WA_Resized))
+        adjustSize();
+    adjustToTitle();
     autocenter();
 }
 

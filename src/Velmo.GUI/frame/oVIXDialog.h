@@ -42,6 +42,7 @@ public:
     void startWaitWithPercent();
     void endWait();
 
+    void setVisible(bool visible) override;
     /// Every way of closing passes here.
     void reject() override;
 
@@ -55,13 +56,14 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void prepareToShow();
     void adjustToTitle();
     void autocenter();
     void startWaiting(bool percentVisible, bool textVisible);
 
     QPointer<oVIXWindowBlock> m_windowBlock;
     QPointer<oVIXWindowWait> m_windowWait;
-    oVIXDialogTitle *m_title;
+    oVIXDialogTitle *m_title = nullptr;
     QPointer<QScreen> m_primaryScreen;
     bool m_titleAdjusted = false;
     bool m_closeEnabled = true;

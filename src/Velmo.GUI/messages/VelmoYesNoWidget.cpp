@@ -57,7 +57,7 @@ VelmoYesNoWidget::VelmoYesNoWidget(QWidget *parent)
       m_enterShortcut(new QShortcut(Qt::Key_Enter, this)), m_escapeShortcut(new QShortcut(Qt::Key_Escape, this))
 {
     m_ui->setupUi(this);
-    setOkText(text());
+    m_ui->okButton->setText(text()); // not polished by measuring it: the sheets come first
     clear();
     m_ui->leftSpacer->setStyleSheet(messageSheet());
     m_ui->widgetButtons->setStyleSheet(u"background-color:rgb(40,40,40);"_s);
