@@ -85,7 +85,7 @@ private slots:
     }
 
 private:
-    static constexpr QRect place{240, 130, 1060, 640};
+    static constexpr QRect place{180, 100, 1240, 760};
 
     /// A place of the menu bar without a menu.
     QPoint title() const { return m_window->menuBar()->mapToGlobal(QPoint(300, 15)); }

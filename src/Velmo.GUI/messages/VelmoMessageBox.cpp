@@ -106,15 +106,15 @@ void VelmoMessageWidget::setText(QString text)
     QTextBrowser *browser = m_ui->textBrowser;
     setSheetOnChange(browser, bodySheet());
     browser->ensurePolished(); // the text is measured in the font of the style sheets
-    // As wide as it is going to be shown: a browser that was never shown lays its text out in a narrow column.
-    const QMargins margins = layout()->contentsMargins();
-    browser->document()->setTextWidth(width() - margins.left() - margins.right() - 2 * bodyPadding);
     const QString shown = shownBody(text);
     if (hasTooDeepTables(shown))
         browser->setPlainText(shown);
     else
         browser->setText(shown);
     browser->setAlignment(Qt::AlignVCenter);
+    // As wide as it is going to be shown: a browser that was never shown lays its text out in a narrow column.
+    const QMargins margins = layout()->contentsMargins();
+    browser->document()->setTextWidth(width() - margins.left() - margins.right() - 2 * bodyPadding);
     resize(width(),
            boxHeight(minimumHeight(), browser->minimumHeight(), browser->maximumHeight(),
                      browser->document()->size().height()));
