@@ -1,5 +1,7 @@
 #include "look/MovingPicture.h"
 
+#include <NativeWindowApi.h>
+
 #include <QPainter>
 #include <QStyle>
 #include <QWidget>
@@ -10,7 +12,9 @@ namespace {
 
 bool animates(const QWidget *widget)
 {
-    return widget && widget->style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, widget) > 0;
+    const NativeWindowApi &native = NativeWindowApi::instance();
+    return widget && (!native.areAnimationsOn || native.areAnimationsOn())
+        && widget->style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, widget) > 0;
 }
 
 } // namespace

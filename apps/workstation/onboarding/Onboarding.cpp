@@ -43,7 +43,7 @@ void Onboarding::showTour()
     m_tour = new oVIXGuideOverlay(m_window);
     for (const auto &step : m_steps)
         m_tour->addStep(step.get());
-    connect(m_tour, &oVIXGuideOverlay::sgGuideFinished, this, &Onboarding::finishTour);
+    connect(m_tour, &oVIXGuideOverlay::sgGuideFinished, this, &Onboarding::endTour);
     m_tour->show();
     m_tour->revealStep();
 }
@@ -52,6 +52,8 @@ void Onboarding::endTour()
 {
     if (!m_tour)
         return;
+    if (m_settings && m_tour->isDontShowChecked())
+        m_settings->setValue(dontShowKey, true);
     m_tour->close();
     m_tour.clear();
     if (m_focusBefore)
@@ -62,11 +64,4 @@ void Onboarding::showWantedTour()
 {
     if (!m_settings || !m_settings->value(dontShowKey).toBool())
         showTour();
-}
-
-void Onboarding::finishTour()
-{
-    if (m_settings && m_tour->isDontShowChecked())
-        m_settings->setValue(dontShowKey, true);
-    endTour();
 }

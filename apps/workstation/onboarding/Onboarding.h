@@ -23,12 +23,11 @@ public:
     void begin();
     /// Shows the tour of the page that the window shows; nothing while there is one.
     void showTour();
-    /// Ends a tour whose page goes.
+    /// Ends the tour, if there is one, and keeps whether it is wanted again.
     void endTour();
 
 private:
     void showWantedTour();
-    void finishTour();
 
     WorkstationWindow *m_window;
     QSettings *m_settings;

@@ -10,6 +10,8 @@
 #include <QXmlStreamWriter>
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +25,29 @@ bool comesBefore(const QString &left, const QString &right)
 {
     const int order = left.compare(right, Qt::CaseInsensitive);
     return order != 0 ? order < 0 : left < right;
+}
+
+/// What was wrong, empty when nothing was. For names of the same file, which cannot be claimed.
+QString renameInPlace(const QString &path, const QString &newPath)
+{
+    QFile file(path);
+    return file.rename(newPath) ? QString() : file.errorString();
+}
+
+/// The same for a name that nobody has. The toolkit copies where it cannot rename, over whatever has got the name
+/// meanwhile: so the name is taken first, and then renamed to or not.
+QString renameOntoClaim(const QString &path, const QString &newPath)
+{
+    QFile claim(newPath);
+    if (!claim.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return claim.errorString();
+    claim.close();
+    std::error_code error;
+    std::filesystem::rename(QFile(path).filesystemFileName(), claim.filesystemFileName(), error);
+    if (!error)
+        return {};
+    claim.remove();
+    return QString::fromLocal8Bit(error.message().c_str());
 }
 
 void writeEmptyScene(QIODevice &file)
@@ -75,6 +100,14 @@ QDateTime ProjectFolder::lastModified() const
     return QFileInfo(m_path).lastModified();
 }
 
+QString ProjectFolder::problem() const
+{
+    const QFileInfo folder(m_path);
+    if (!folder.isDir())
+        return tr("The folder of this project is missing.");
+    return folder.isReadable() ? QString() : tr("The folder of this project cannot be read.");
+}
+
 QList<SceneFile> ProjectFolder::scenes() const
 {
     QList<SceneFile> scenes;
@@ -102,10 +135,12 @@ ProjectFolder::Change ProjectFolder::renameScene(const SceneFile &scene, const Q
     if (isTaken(newFileName, oldFileName))
         return {scene, tr("There is already a scene called \"%1\".").arg(newName)};
 
-    QFile file(scene.path);
     const QString newPath = QDir(m_path).filePath(newFileName);
-    if (!file.rename(newPath))
-        return {scene, tr("The file cannot be renamed: %1").arg(file.errorString())};
+    const QString problem = newFileName.compare(oldFileName, Qt::CaseInsensitive) == 0
+        ? renameInPlace(scene.path, newPath)
+        : renameOntoClaim(scene.path, newPath);
+    if (!problem.isEmpty())
+        return {scene, tr("The file cannot be renamed: %1").arg(problem)};
     return {{newName, newPath}, {}};
 }
 
@@ -119,6 +154,8 @@ ProjectFolder::Change ProjectFolder::addScene() const
 
 ProjectFolder::Change ProjectFolder::cloneScene(const SceneFile &scene) const
 {
+    if (const QString gone = goneProblem(scene); !gone.isEmpty())
+        return {scene, gone};
     QFile original(scene.path);
     if (!original.open(QIODevice::ReadOnly))
         return {scene, tr("The scene cannot be read: %1").arg(original.errorString())};

@@ -37,6 +37,8 @@ public:
     QString path() const;
     /// When a file in it was last written, made, renamed or removed; invalid when unknown.
     QDateTime lastModified() const;
+    /// Why the scenes cannot be listed, in words for the user; empty when they can.
+    QString problem() const;
 
     /// The project's scenes, by name.
     QList<SceneFile> scenes() const;

@@ -54,10 +54,10 @@ void SceneLoading::finish()
     m_thread->wait();
     m_thread.release()->deleteLater();
     const Outcome outcome = std::exchange(m_outcome, Outcome());
-    if (!outcome.isGood)
+    if (m_cancelled) // perhaps after the reader's last look
+        emit cancelled(outcome.isGood ? SceneContentReader::cancelledText(outcome.scene.name) : outcome.problem);
+    else if (!outcome.isGood)
         emit failed(outcome.problem);
-    else if (m_cancelled) // after the reader's last look
-        emit failed(SceneContentReader::cancelledText(outcome.scene.name));
     else
         emit loaded(outcome.scene);
 }

@@ -21,9 +21,9 @@ public:
     SceneLoading(VelmoProgressListener *progress, VelmoPercentListener *percent, QObject *parent = nullptr);
     ~SceneLoading() override;
 
-    /// One of the two signals follows, from the event loop. Nothing while another scene is being loaded.
+    /// One of the signals follows, from the event loop. Nothing while another scene is being loaded.
     void load(const QString &path);
-    /// `failed` follows.
+    /// `cancelled` follows.
     void cancel();
     bool isLoading() const;
 
@@ -31,6 +31,8 @@ signals:
     void loaded(const Scene &scene);
     /// @p problem is in words for the user.
     void failed(const QString &problem);
+    /// @p note says so in words for the user.
+    void cancelled(const QString &note);
 
 private:
     struct Outcome

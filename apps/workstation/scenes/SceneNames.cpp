@@ -8,8 +8,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Neither 255 bytes nor 255 UTF-16 units may be passed, whichever the file system counts.
-constexpr qsizetype longestFileName = 255;
+// Neither 255 bytes nor 255 UTF-16 units may be passed, whichever the file system counts. A file is written under a
+// temporary name first, which is seven longer.
+constexpr qsizetype longestFileName = 255 - 7;
 
 constexpr auto separatorsAndWildcards = R"(<>:"/\|?*)"_L1;
 
@@ -53,6 +54,6 @@ QString SceneNames::firstFree(const QString &base, const std::function<bool(cons
 {
     QString name = base;
     for (int number = 2; isTaken(name); ++number)
-        name = u"%1 %2"_s.arg(base).arg(number);
+        name = u"%1 %2"_s.arg(base, QString::number(number));
     return name;
 }

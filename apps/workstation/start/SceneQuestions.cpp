@@ -20,12 +20,12 @@ bool SceneQuestions::confirmRemoving(const QString &problem, QWidget *parent)
     return VelmoQuestionMessage(tr("Delete scene"), Qt::convertFromPlainText(question), parent, nullptr) == MsgAccepted;
 }
 
-QString SceneQuestions::askNewName(const QString &name, QWidget *parent)
+std::optional<QString> SceneQuestions::askNewName(const QString &name, QWidget *parent)
 {
     QString newName = name;
     const bool accepted =
         VelmoEditMessage(tr("RENAME"), tr("New name of the scene"), &newName, parent, nullptr) == MsgAccepted;
-    return accepted && newName != name ? newName : QString();
+    return accepted && newName != name ? std::optional(newName) : std::nullopt;
 }
 
 void SceneQuestions::report(const QString &title, const QString &problem, QWidget *parent)

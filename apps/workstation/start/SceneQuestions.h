@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QString>
 
-class QString;
+#include <optional>
+
 class QWidget;
 
 /// The boxes about scene files. Each runs until it is answered; @p parent may be gone afterwards. Names are shown as
@@ -16,7 +18,7 @@ public:
     static bool confirmDeleting(const QString &name, QWidget *parent);
     /// Whether the scene is to go for good; @p problem tells why it cannot go to the trash.
     static bool confirmRemoving(const QString &problem, QWidget *parent);
-    /// The new name, or an empty text when there is to be none.
-    static QString askNewName(const QString &name, QWidget *parent);
+    /// The new name, which may be empty; nothing when the scene keeps its name.
+    static std::optional<QString> askNewName(const QString &name, QWidget *parent);
     static void report(const QString &title, const QString &problem, QWidget *parent);
 };

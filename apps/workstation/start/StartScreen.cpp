@@ -125,6 +125,7 @@ bool StartScreen::canOpen() const
 
 void StartScreen::openSelectedScene()
 {
+    m_scenesPanel->finishEditing(); // a name that is being edited is not the file's
     const SceneFile scene = selectedScene();
     if (!scene.path.isEmpty())
         emit openRequested(scene.path);
@@ -132,15 +133,20 @@ void StartScreen::openSelectedScene()
 
 void StartScreen::renameSelectedScene()
 {
+    m_scenesPanel->finishEditing(); // it would rename when the box takes the focus
     const SceneFile scene = selectedScene();
+    if (scene.path.isEmpty())
+        return;
+    const QString project = m_project.path();
     const QPointer<StartScreen> self(this);
-    const QString newName = scene.path.isEmpty() ? QString() : SceneQuestions::askNewName(scene.name, window());
-    if (self && !newName.isEmpty())
-        renameScene(scene.name, newName);
+    const std::optional<QString> newName = SceneQuestions::askNewName(scene.name, window());
+    if (self && newName && project == m_project.path())
+        renameScene(scene.name, *newName);
 }
 
 void StartScreen::cloneSelectedScene()
 {
+    m_scenesPanel->finishEditing();
     const SceneFile scene = selectedScene();
     if (!scene.path.isEmpty())
         showAdded(m_project.cloneScene(scene), tr("Clone scene"));
@@ -148,6 +154,7 @@ void StartScreen::cloneSelectedScene()
 
 void StartScreen::deleteSelectedScene()
 {
+    m_scenesPanel->finishEditing();
     const SceneFile scene = selectedScene();
     const ProjectFolder project = m_project;
     const QPointer<StartScreen> self(this);
@@ -155,18 +162,20 @@ void StartScreen::deleteSelectedScene()
         return;
     QString note = tr("\"%1\" is in the trash.").arg(scene.name);
     ProjectFolder::Change change = project.deleteScene(scene);
+    if (!self) // some systems let events in while they move a file to the trash
+        return;
     if (!change.problem.isEmpty() && QFileInfo(scene.path).isFile()) {
         if (!SceneQuestions::confirmRemoving(change.problem, window()) || !self)
             return;
         note = tr("\"%1\" has been deleted.").arg(scene.name);
         change = project.removeScene(scene);
     }
-    if (project.path() != m_project.path())
-        return;
     if (!change.problem.isEmpty()) {
         reportFailure(tr("Delete scene"), change);
         return;
     }
+    if (project.path() != m_project.path())
+        return;
     m_noteWhenRead = note;
     m_sceneWhenRead = neighbourOf(scene);
     showProjectChanged();
@@ -220,6 +229,9 @@ void StartScreen::listProjects(const QString &folder)
         m_projectsTable->addProject(project.path(), project.lastModified().toString());
     if (!m_projects.isEmpty()) {
         m_projectsTable->setDefaultSelection();
+    } else if (QDir(folder).exists() && !QDir(folder).isReadable()) {
+        m_emptyNote->setText(tr("The folder %1 cannot be read").arg(QDir::toNativeSeparators(folder)));
+        m_status->showProblem(tr("The folder of projects cannot be read."));
     } else if (QDir(folder).exists()) {
         m_emptyNote->setText(tr("This folder has no projects. Every folder in it would be one."));
         m_status->showNote(tr("No projects"));
@@ -259,14 +271,17 @@ void StartScreen::showScene(const SceneFacts &facts)
 
 void StartScreen::finishReading()
 {
-    if (!m_sceneWhenRead.isEmpty()) {
+    if (!m_sceneWhenRead.isEmpty())
         m_scenesPanel->setSceneSelected(m_sceneWhenRead);
-    } else if (!canOpen()) {
+    if (!canOpen()) {
         const auto first = std::find_if(m_scenes.cbegin(), m_scenes.cend(), std::mem_fn(&SceneFacts::readable));
         if (first != m_scenes.cend())
             m_scenesPanel->setSelectedRow(int(first - m_scenes.cbegin()));
     }
-    m_status->showNote(m_noteWhenRead.isEmpty() ? summary() : m_noteWhenRead);
+    if (const QString problem = m_project.problem(); !problem.isEmpty())
+        m_status->showProblem(problem);
+    else
+        m_status->showNote(m_noteWhenRead.isEmpty() ? summary() : m_noteWhenRead);
     m_sceneWhenRead.clear();
     m_noteWhenRead.clear();
     emit projectRead();
@@ -276,8 +291,10 @@ void StartScreen::renameScene(const QString &oldName, const QString &newName)
 {
     const auto hasOldName = [&oldName](const SceneFacts &facts) { return facts.file.name == oldName; };
     const auto scene = std::find_if(m_scenes.begin(), m_scenes.end(), hasOldName);
-    if (scene == m_scenes.end())
+    if (scene == m_scenes.end()) {
+        reportFailure(tr("Rename scene"), {{}, tr("There is no file of \"%1\" any more.").arg(oldName)});
         return;
+    }
     const ProjectFolder::Change change = m_project.renameScene(scene->file, newName);
     if (!change.problem.isEmpty()) {
         reportFailure(tr("Rename scene"), change);
@@ -286,8 +303,7 @@ void StartScreen::renameScene(const QString &oldName, const QString &newName)
     showProjectChanged();
 
     const QString note = tr("\"%1\" is now called \"%2\".").arg(oldName, newName);
-    // The table finds the first of several names that differ in case only, which
-    // need not be this one.
+    // The table finds the first of several names that differ in case only, which need not be this one.
     const auto looksTheSame = [&oldName](const SceneFacts &facts) {
         return facts.file.name.compare(oldName, Qt::CaseInsensitive) == 0;
     };

@@ -5,6 +5,7 @@
 #include "panels/LibraryPanel.h"
 #include "panels/ParametersPanel.h"
 #include "panels/TagsPanel.h"
+#include "start/SceneQuestions.h"
 #include "start/StartScreen.h"
 #include "window/SceneFactsDialog.h"
 #include "window/ScenePage.h"
@@ -13,6 +14,7 @@
 #include "window/WelcomeDialog.h"
 
 #include <VelmoAboutDialog.h>
+#include <VelmoFeedbackConsentDialog.h>
 #include <oVIXMinMaxCloseWidget.h>
 #include <oVIXTitleBar.h>
 #include <oVIXWindowWaitGlobal.h>
@@ -66,6 +68,7 @@ WorkstationWindow::WorkstationWindow(const QString &projectsFolder, QSettings *s
     connect(m_startScreen, &StartScreen::selectionChanged, this, &WorkstationWindow::updateActions);
     connect(&m_loading, &SceneLoading::loaded, this, &WorkstationWindow::showScene);
     connect(&m_loading, &SceneLoading::failed, this, &WorkstationWindow::reportProblem);
+    connect(&m_loading, &SceneLoading::cancelled, this, &WorkstationWindow::noteProblem);
     m_reportTimer.setInterval(reportInterval);
     connect(&m_reportTimer, &QTimer::timeout, this, [this] { getWindowWait()->progressEvent(QString()); });
     updateActions();
@@ -144,6 +147,13 @@ void WorkstationWindow::showWelcome()
     (new WelcomeDialog(m_projectsFolder, this))->open();
 }
 
+void WorkstationWindow::showFeedbackConsent()
+{
+    auto *dialog = new VelmoFeedbackConsentDialog(this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
+
 void WorkstationWindow::showAbout()
 {
     auto *dialog = new VelmoAboutDialog(this);
@@ -174,6 +184,7 @@ void WorkstationWindow::changeEvent(QEvent *event)
 void WorkstationWindow::closeEvent(QCloseEvent *event)
 {
     m_loading.cancel();
+    m_onboarding->endTour();
     saveLayout();
     oVIXMainWindow::closeEvent(event);
 }
@@ -214,6 +225,7 @@ void WorkstationWindow::createMenus()
     QMenu *help = menuBar()->addMenu(tr("Help"));
     help->addAction(tr("Welcome"), QKeySequence::HelpContents, this, &WorkstationWindow::showWelcome);
     help->addAction(tr("Guided tour"), this, &WorkstationWindow::showTour);
+    help->addAction(tr("Feedback program"), this, &WorkstationWindow::showFeedbackConsent);
     help->addSeparator();
     help->addAction(tr("About"), this, &WorkstationWindow::showAbout);
 }
@@ -340,10 +352,16 @@ void WorkstationWindow::showScene(const Scene &scene)
     endLoading();
 }
 
-void WorkstationWindow::reportProblem(const QString &problem)
+void WorkstationWindow::noteProblem(const QString &problem)
 {
     m_startScreen->showProblem(problem);
     endLoading();
+}
+
+void WorkstationWindow::reportProblem(const QString &problem)
+{
+    noteProblem(problem);
+    SceneQuestions::report(tr("Open scene"), problem, this); // the window may be gone afterwards
 }
 
 void WorkstationWindow::endLoading()

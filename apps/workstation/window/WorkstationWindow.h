@@ -46,6 +46,7 @@ public:
     void showSceneFacts();
     void showWelcome();
     void showAbout();
+    void showFeedbackConsent();
     /// What new users are shown at the start of the application: see `Onboarding`. A window never does it by itself.
     void beginOnboarding();
     /// Shows the guided tour of what the window shows.
@@ -73,6 +74,7 @@ private:
     void restoreLayout();
     void toggleMaximized();
     void showScene(const Scene &scene);
+    void noteProblem(const QString &problem);
     void reportProblem(const QString &problem);
     void endLoading();
     void updateActions();

@@ -2,17 +2,15 @@
 
 #include "frame/DetachedProcess.h"
 
+#include <atomic>
 #include <exception>
 #include <filesystem>
 #include <system_error>
 
 namespace {
 
-std::string &registeredFile()
-{
-    static auto *path = new std::string;
-    return *path;
-}
+/// Null before a path is registered: a signal handler may ask, and has to find a whole path or none.
+std::atomic<const std::string *> registeredFile = nullptr;
 
 /// The system would read such a text as another one.
 bool isPath(const std::string &text)
@@ -40,7 +38,7 @@ bool CrashReport::registerFile(const std::string &path)
         const std::u8string full = isPath(path) ? fullPath(path).u8string() : std::u8string();
         if (full.empty())
             return false;
-        registeredFile().assign(full.begin(), full.end());
+        delete registeredFile.exchange(new std::string(full.begin(), full.end()));
         return true;
     } catch (const std::exception &) { // text that is no UTF-8, on systems that keep paths in another encoding
         return false;
@@ -49,10 +47,12 @@ bool CrashReport::registerFile(const std::string &path)
 
 std::string CrashReport::file()
 {
-    return registeredFile();
+    const std::string *path = registeredFile;
+    return path ? *path : std::string();
 }
 
 bool CrashReport::startProcess(const std::string &program)
 {
-    return isPath(program) && !registeredFile().empty() && startDetached(program, registeredFile());
+    const std::string *path = registeredFile;
+    return path && isPath(program) && startDetached(program, *path);
 }

@@ -8,7 +8,8 @@
 #include <cerrno>
 #include <csignal>
 
-// Everything here may run in a signal handler, and behind fork in a process of many threads: system calls only.
+// Everything here may run in a signal handler, and behind _Fork in a process of many threads: system calls only. fork
+// would take the locks of the allocator, which may be what has crashed.
 
 namespace {
 
@@ -55,9 +56,11 @@ void become(const char *program, const char *argument)
 {
     // The pipe may have taken the place of a standard stream that was closed.
     const int failure = fcntl(failurePipe, F_DUPFD_CLOEXEC, firstOwnDescriptor);
+    if (failure < 0)
+        _exit(write(failurePipe, "", 1) == 1 ? 1 : 2);
     close(failurePipe);
     setsid();
-    const pid_t process = fork();
+    const pid_t process = _Fork();
     if (process == 0)
         become(program, argument);
     if (process <= 0 && write(failure, "", 1) != 1)
@@ -83,7 +86,7 @@ bool startDetached(const std::string &program, const std::string &argument)
     int failurePipe[2];
     if (pipe2(failurePipe, O_CLOEXEC) != 0)
         return false;
-    const pid_t process = fork();
+    const pid_t process = _Fork();
     if (process == 0)
         runInBetween(program.c_str(), argument.c_str(), failurePipe[1]);
     close(failurePipe[1]);

@@ -74,6 +74,9 @@ LRESULT CALLBACK answer(HWND window, UINT message, WPARAM first, LPARAM second)
     case WM_SETFOCUS:
         SetFocus(GetDlgItem(window, closeId));
         return 0;
+    case WM_NEXTDLGCTL: // the text field asks for it on Tab
+        SetFocus(LOWORD(second) ? reinterpret_cast<HWND>(first) : GetNextDlgTabItem(window, GetFocus(), first != 0));
+        return 0;
     case WM_COMMAND:
         if (LOWORD(first) == closeId)
             DestroyWindow(window);
