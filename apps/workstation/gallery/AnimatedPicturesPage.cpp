@@ -30,7 +30,8 @@ QPixmap drawSheet(int stacks, int slices, qreal devicePixelRatio)
     const int count = stacks * slices;
     for (int i = 0; i < count; ++i) {
         painter.save();
-        painter.translate((i % slices + 0.5) * frameExtent, (i / slices + 0.5) * frameExtent);
+        const int row = i / slices;
+        painter.translate((i % slices + 0.5) * frameExtent, (row + 0.5) * frameExtent);
         painter.setPen(QPen(Palette::line, 3));
         painter.drawEllipse(QPointF(), 18, 18);
         painter.rotate(360.0 * i / count);

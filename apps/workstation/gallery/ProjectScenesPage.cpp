@@ -16,11 +16,10 @@ using namespace std::chrono_literals;
 class ProjectScenesSample : public VelmoProjectScenesWidget
 {
 public:
-    using VelmoProjectScenesWidget::addScene;
     using VelmoProjectScenesWidget::clearPreview;
     using VelmoProjectScenesWidget::setPreview;
 
-    void addScene(const QString &name, bool newer = false, bool compatible = true)
+    void addSample(const QString &name, bool newer = false, bool compatible = true)
     {
         VelmoSceneMetadataParser metadata = VelmoSceneMetadataParser::withDefaults();
         metadata.bakeStatus = compatible ? u"Baked"_s : QString();
@@ -40,9 +39,9 @@ constexpr QSize pictureSize(960, 540);
 
 void addThree(ProjectScenesSample *panel)
 {
-    panel->addScene(ProjectScenesPage::tr("Market square.vscene"));
-    panel->addScene(ProjectScenesPage::tr("Station hall.vscene"));
-    panel->addScene(ProjectScenesPage::tr("Harbour.vscene"));
+    panel->addSample(ProjectScenesPage::tr("Market square.vscene"));
+    panel->addSample(ProjectScenesPage::tr("Station hall.vscene"));
+    panel->addSample(ProjectScenesPage::tr("Harbour.vscene"));
 }
 
 } // namespace
@@ -69,8 +68,8 @@ void ProjectScenesPage::addStates()
     ProjectScenesSample *selected =
         addPanel(tr("A scene is selected"), tr("It can be opened, and its preview shows whole."), tall);
     addThree(selected);
-    selected->addScene(tr("Saved by a newer release.vscene"), true);
-    selected->addScene(tr("Not compatible.vscene"), false, false);
+    selected->addSample(tr("Saved by a newer release.vscene"), true);
+    selected->addSample(tr("Not compatible.vscene"), false, false);
     selected->setSelectedRow(0);
     selected->setPreview(SamplePicture::draw(pictureSize));
     selected->setYesNoButtonEnabled(true);
@@ -106,7 +105,7 @@ void ProjectScenesPage::addCounts()
 
     ProjectScenesSample *many = addPanel(tr("1,000 scenes"), tr("Row 500 is selected and stands in the middle."), tall);
     for (int i = 1; i <= 1000; ++i)
-        many->addScene(tr("Scene %1.vscene").arg(i));
+        many->addSample(tr("Scene %1.vscene").arg(i));
     // A list that is not on screen yet does not know its middle.
     QTimer::singleShot(0ms, many, [many] { many->setSelectedRow(499); });
 }
