@@ -10,9 +10,8 @@
 inline int revealedRadius(QSize area, float progress)
 {
     constexpr float beyondAnyScreen = 1e6F;
-    const double halfWidth = area.width() / 2;
-    const double halfHeight = area.height() / 2;
-    const int whole = int(std::sqrt(halfWidth * halfWidth + halfHeight * halfHeight));
+    const QSize half(area.width() / 2, area.height() / 2);
+    const int whole = int(std::hypot(half.width(), half.height()));
     return int(std::clamp(float(whole) * progress, 0.0F, beyondAnyScreen));
 }
 

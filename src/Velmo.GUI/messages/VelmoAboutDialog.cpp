@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 longestPage = 4 * 1024 * 1024;
+constexpr qint64 longestPage = qint64(4) * 1024 * 1024;
 
 QString nameSheet()
 {
