@@ -1,4 +1,5 @@
 #include "support/Gestures.h"
+#include "support/OwnSettings.h"
 #include "support/TestCase.h"
 
 #include "VelmoAboutDialog.h"
@@ -30,12 +31,7 @@ class OnboardingTest : public TestCase
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QSettings::setDefaultFormat(QSettings::IniFormat);
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_folder.path());
-        QSettings::setPath(QSettings::IniFormat, QSettings::SystemScope, m_folder.path());
-    }
+    void initTestCase() { keepSettingsIn(m_folder.path()); }
 
     void init()
     {
