@@ -4,6 +4,7 @@
 # Wine's own files are made in the folder by the first run, which takes half a minute, and kept. The folder is the home
 # folder too, so that nothing of the user's is read or written.
 set(ENV{HOME} "${WORK}")
+set(ENV{LC_ALL} "C.UTF-8") # or Wine would refuse file names beyond ASCII
 set(ENV{WINEPREFIX} "${WORK}/prefix")
 set(ENV{WINEDEBUG} "-all")
 set(ENV{WINEDLLOVERRIDES} "mscoree=;mshtml=;winemenubuilder.exe=")
