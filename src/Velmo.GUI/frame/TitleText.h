@@ -22,3 +22,9 @@ inline QString titleText(const QString &title, const QString &subtitle)
 {
     return whiteAndGrey(title + QLatin1String(": "), subtitle);
 }
+
+/// The same line as plain text, to be measured.
+inline QString titleLine(const QString &title, const QString &subtitle)
+{
+    return ShownText::oneLine(title + QLatin1String(": ")) + QLatin1Char(' ') + ShownText::oneLine(subtitle);
+}

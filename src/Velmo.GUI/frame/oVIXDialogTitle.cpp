@@ -1,10 +1,9 @@
 #include "frame/oVIXDialogTitle.h"
 
 #include "foundation/OvixSvgButton.h"
-#include "frame/TitleText.h"
+#include "frame/TitleLabel.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QMouseEvent>
 
 using namespace Qt::StringLiterals;
@@ -23,10 +22,9 @@ QString titleSheet()
 } // namespace
 
 oVIXDialogTitle::oVIXDialogTitle(QWidget *parent)
-    : QFrame(parent), m_closeButton(new OvixSvgButton(this)), m_titleLabel(new QLabel(this))
+    : QFrame(parent), m_closeButton(new OvixSvgButton(this)), m_titleLabel(new TitleLabel(this))
 {
     m_titleLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_titleLabel->setTextFormat(Qt::RichText);
 
     m_closeButton->setFixedSize(closeSide, closeSide);
     m_closeButton->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
@@ -35,6 +33,7 @@ oVIXDialogTitle::oVIXDialogTitle(QWidget *parent)
     m_closeButton->setFilename(u":/Windows/Close"_s);
     m_closeButton->setMargins(titleCloseMargin);
     m_closeButton->setAccessibleName(tr("Close"));
+    m_closeButton->paintEventUpdate(); // its sheet is styled once, with all others
     connect(m_closeButton, &OvixSvgButton::clicked, this, &oVIXDialogTitle::closeClicked);
 
     auto *row = new QHBoxLayout(this);
@@ -55,7 +54,7 @@ void oVIXDialogTitle::setTitle(QString title, QString subtitle)
     QFont font(u"Inter"_s);
     font.setPixelSize(10);
     m_titleLabel->setFont(font);
-    m_titleLabel->setText(titleText(title, subtitle));
+    m_titleLabel->setTitle(title, subtitle);
 }
 
 void oVIXDialogTitle::setDragEnabled(bool enabled)

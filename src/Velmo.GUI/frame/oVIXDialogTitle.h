@@ -6,7 +6,7 @@
 #include <QPoint>
 
 class OvixSvgButton;
-class QLabel;
+class TitleLabel;
 
 /// The title strip of a frameless dialog: white title, grey subtitle, close button. 30 logical pixels high. With
 /// dragging on, the strip moves its parent widget.
@@ -35,7 +35,7 @@ protected:
 
 private:
     OvixSvgButton *m_closeButton;
-    QLabel *m_titleLabel;
+    TitleLabel *m_titleLabel;
     QPoint m_dragOrigin; // null: no drag
     bool m_dragEnabled = false;
 };

@@ -53,40 +53,51 @@ QString otherSheet()
            "}"_s;
 }
 
-VelmoMessageWidget *createBox(const QString &kind, const QString &title, const QString &text, bool stayOnTop,
-                              int height, QWidget *parent, QScreen *screen)
-{
-    auto *box = new VelmoMessageWidget(kind, title, stayOnTop, parent, screen);
-    box->setText(text);
-    if (height > 0)
-        box->setFixedHeight(qMin(height, tallest));
-    return box;
-}
-
-VelmoMsgReturnCode run(const QPointer<VelmoMessageWidget> &box)
-{
-    box->startMinimumWaitTimer();
-    const auto code = VelmoMsgReturnCode(box->exec());
-    if (box)
-        box->close();
-    return code;
-}
-
-VelmoMsgReturnCode runAndDelete(VelmoMessageWidget *widget)
-{
-    const QPointer<VelmoMessageWidget> box(widget);
-    const VelmoMsgReturnCode code = run(box);
-    delete box.data();
-    return code;
-}
-
 } // namespace
 
+/// Boxes as the functions below build and run them.
+class MessageBoxes
+{
+public:
+    static VelmoMessageWidget *create(const QString &kind, const QString &title, const QString &text, bool stayOnTop,
+                                      int height, QWidget *parent, QScreen *screen)
+    {
+        // A text follows at once. The sheet of an empty body would style the browser and its scroll bars for nothing.
+        auto *box = new VelmoMessageWidget(kind, title, bodySheet(), stayOnTop, parent, screen);
+        box->setText(text);
+        if (height > 0)
+            box->setFixedHeight(qMin(height, tallest));
+        return box;
+    }
+
+    static VelmoMsgReturnCode run(const QPointer<VelmoMessageWidget> &box)
+    {
+        box->startMinimumWaitTimer();
+        const auto code = VelmoMsgReturnCode(box->exec());
+        if (box)
+            box->close();
+        return code;
+    }
+
+    static VelmoMsgReturnCode runAndDelete(VelmoMessageWidget *widget)
+    {
+        const QPointer<VelmoMessageWidget> box(widget);
+        const VelmoMsgReturnCode code = run(box);
+        delete box.data();
+        return code;
+    }
+};
+
 VelmoMessageWidget::VelmoMessageWidget(QString kind, QString title, bool stayOnTop, QWidget *parent, QScreen *screen)
+    : VelmoMessageWidget(kind, title, emptyBodySheet(), stayOnTop, parent, screen)
+{ }
+
+VelmoMessageWidget::VelmoMessageWidget(const QString &kind, const QString &title, const QString &bodySheet,
+                                       bool stayOnTop, QWidget *parent, QScreen *screen)
     : oVIXDialog(false, false, stayOnTop, parent, screen), m_ui(new Ui::VelmoMessageWidget)
 {
     m_ui->setupUi(this);
-    m_ui->textBrowser->setStyleSheet(emptyBodySheet());
+    m_ui->textBrowser->setStyleSheet(bodySheet);
     m_ui->lnEdit->hide();
     m_ui->lbDont->setStyleSheet(otherSheet());
     m_ui->widgetYesNoButtons->setStyleSheet(u"background-color:rgb(167,172,175);"_s);
@@ -107,17 +118,19 @@ void VelmoMessageWidget::setText(QString text)
     setSheetOnChange(browser, bodySheet());
     browser->ensurePolished(); // the text is measured in the font of the style sheets
     const QString shown = shownBody(text);
+    QTextDocument *document = browser->document();
+    document->setLayoutEnabled(false); // until all is set
     if (hasTooDeepTables(shown))
         browser->setPlainText(shown);
     else
         browser->setText(shown);
     browser->setAlignment(Qt::AlignVCenter);
+    document->setLayoutEnabled(true);
     // As wide as it is going to be shown: a browser that was never shown lays its text out in a narrow column.
     const QMargins margins = layout()->contentsMargins();
-    browser->document()->setTextWidth(width() - margins.left() - margins.right() - 2 * bodyPadding);
+    document->setTextWidth(width() - margins.left() - margins.right() - 2 * bodyPadding);
     resize(width(),
-           boxHeight(minimumHeight(), browser->minimumHeight(), browser->maximumHeight(),
-                     browser->document()->size().height()));
+           boxHeight(minimumHeight(), browser->minimumHeight(), browser->maximumHeight(), document->size().height()));
     setAccessibleDescription(browser->toPlainText());
 }
 
@@ -281,7 +294,7 @@ void VelmoMessageWidget::setButtons(const QString &okText, bool otherVisible)
 
 VelmoMessageClass::VelmoMessageClass(QString kind, QString title, QString text, bool stayOnTop, int height,
                                      QWidget *parent, QScreen *screen)
-    : m_widget(createBox(kind, title, text, stayOnTop, height, parent, screen))
+    : m_widget(MessageBoxes::create(kind, title, text, stayOnTop, height, parent, screen))
 { }
 
 VelmoMessageClass::VelmoMessageClass(const VelmoMessageClass &other) = default;
@@ -328,67 +341,67 @@ void VelmoMessageClass::setMinimumWaitSeconds(int seconds)
 
 VelmoMsgReturnCode VelmoMessageClass::exec()
 {
-    return m_widget ? run(m_widget) : MsgRejected;
+    return m_widget ? MessageBoxes::run(m_widget) : MsgRejected;
 }
 
 VelmoMsgReturnCode VelmoInfoMessage(QString title, QString text, QWidget *parent, QScreen *screen)
 {
-    auto *box = createBox(VelmoMessageWidget::tr("INFORMATION"), title, text, false, 0, parent, screen);
+    auto *box = MessageBoxes::create(VelmoMessageWidget::tr("INFORMATION"), title, text, false, 0, parent, screen);
     box->setButtonMode(InformationButtons);
-    return runAndDelete(box);
+    return MessageBoxes::runAndDelete(box);
 }
 
 VelmoMsgReturnCode VelmoWarningMessage(QString title, QString text, int height, QWidget *parent, QScreen *screen)
 {
-    auto *box = createBox(VelmoMessageWidget::tr("WARNING"), title, text, false, height, parent, screen);
+    auto *box = MessageBoxes::create(VelmoMessageWidget::tr("WARNING"), title, text, false, height, parent, screen);
     box->setButtonMode(InformationButtons);
-    return runAndDelete(box);
+    return MessageBoxes::runAndDelete(box);
 }
 
 VelmoMsgReturnCode VelmoQuestionMessage(QString title, QString text, QWidget *parent, QScreen *screen)
 {
     if (parent)
         QApplication::alert(parent->window(), 0);
-    auto *box = createBox(VelmoMessageWidget::tr("QUESTION"), title, text, false, 0, parent, screen);
+    auto *box = MessageBoxes::create(VelmoMessageWidget::tr("QUESTION"), title, text, false, 0, parent, screen);
     box->setButtonMode(QuestionButtons);
-    return runAndDelete(box);
+    return MessageBoxes::runAndDelete(box);
 }
 
 VelmoMsgReturnCode VelmoEditMessage(QString kind, QString title, QString *edited, QWidget *parent, QScreen *screen)
 {
-    auto *box = createBox(kind, title, title, false, 0, parent, screen);
+    auto *box = MessageBoxes::create(kind, title, title, false, 0, parent, screen);
     box->setButtonMode(EditButtons);
     box->showEditable(true, edited);
-    return runAndDelete(box);
+    return MessageBoxes::runAndDelete(box);
 }
 
 VelmoMsgReturnCode VelmoThreeOptionMessage(QString kind, QString title, QString text, QString otherText,
                                            QWidget *parent, QScreen *screen)
 {
-    auto *box = createBox(kind, title, text, false, 0, parent, screen);
+    auto *box = MessageBoxes::create(kind, title, text, false, 0, parent, screen);
     box->setOtherOption(otherText);
     box->setButtonMode(ThreeOptionButtons);
-    return runAndDelete(box);
+    return MessageBoxes::runAndDelete(box);
 }
 
 VelmoMsgReturnCode VelmoCustomMessage(QString kind, QString title, QString text, QString buttonText,
                                       QString buttonMessage, bool stayOnTop, QWidget *parent, QScreen *screen)
 {
-    auto *box = createBox(kind, title, text, stayOnTop, 0, parent, screen);
+    auto *box = MessageBoxes::create(kind, title, text, stayOnTop, 0, parent, screen);
     box->setButtonMode(QuestionButtons);
     box->setButtonText(buttonText);
     box->setButtonMessage(buttonMessage);
-    return runAndDelete(box);
+    return MessageBoxes::runAndDelete(box);
 }
 
 VelmoMsgReturnCode VelmoCustomThreeOptionMessage(QString kind, QString title, QString text, QString buttonText,
                                                  QString otherText, bool stayOnTop, int waitSeconds, QWidget *parent,
                                                  QScreen *screen)
 {
-    auto *box = createBox(kind, title, text, stayOnTop, 0, parent, screen);
+    auto *box = MessageBoxes::create(kind, title, text, stayOnTop, 0, parent, screen);
     box->setOtherOption(otherText);
     box->setButtonMode(ThreeOptionButtons);
     box->setButtonText(buttonText);
     box->setMinimumWaitSeconds(waitSeconds);
-    return runAndDelete(box);
+    return MessageBoxes::runAndDelete(box);
 }

@@ -8,6 +8,7 @@
 
 #include <memory>
 
+class MessageBoxes;
 class QTimer;
 
 namespace Ui {
@@ -85,6 +86,11 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    friend class MessageBoxes;
+
+    VelmoMessageWidget(const QString &kind, const QString &title, const QString &bodySheet, bool stayOnTop,
+                       QWidget *parent, QScreen *screen);
+
     void startWait();
     void finishWait();
     void setLocked(bool locked);
