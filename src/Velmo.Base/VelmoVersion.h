@@ -14,6 +14,7 @@ class VELMO_BASE_EXPORT VelmoVersion
 public:
     /// The default version: no number at all, as old as 0, written as an empty text.
     VelmoVersion() = default;
+    /// Reads @p text as told above; blanks round it do not matter.
     explicit VelmoVersion(const QString &text);
 
     /// The numbers as they were given, separated by dots.

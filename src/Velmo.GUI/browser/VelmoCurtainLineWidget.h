@@ -16,6 +16,7 @@ class VELMO_GUI_EXPORT VelmoCurtainLineWidget : public QWidget
     Q_OBJECT
 
 public:
+    /// A line that shows.
     explicit VelmoCurtainLineWidget(QWidget *parent = nullptr);
     ~VelmoCurtainLineWidget() override;
 

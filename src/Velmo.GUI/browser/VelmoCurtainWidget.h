@@ -25,15 +25,20 @@ public:
     explicit VelmoCurtainWidget(QWidget *parent = nullptr);
     ~VelmoCurtainWidget() override;
 
+    /// The title, "Title" at first; the arrow's name for assistive tools too.
     void setTitle(const QString &title);
+    /// The whole title, however much of it shows.
     QString getTitle() const;
+    /// The subtitle, behind the title in grey italics; "Subtitle" at first.
     void setSubtitle(const QString &subtitle);
+    /// The whole subtitle, however much of it shows.
     QString getSubtitle() const;
 
     /// Appends a widget to the container, which owns it from then on. Null, the curtain itself and what it stands in
     /// are ignored.
     void addToContainerWidget(QWidget *widget);
 
+    /// Shows or hides the container.
     void setExpanded(bool expanded);
     /// Whether the container is on view: a curtain that is hidden, or inside something hidden, counts as collapsed.
     bool isExpanded() const;

@@ -33,15 +33,18 @@ public:
     /// The path as given.
     QString getPath() const;
 
+    /// The list item that was given.
     QListWidgetItem *getItem() const;
 
     /// Mirrors the list's selection. Emits nothing.
     void setSelected(bool selected);
+    /// Off at first.
     bool isSelected() const;
 
     /// Fixes the width of the last-modified column, in logical pixels.
     void setWidths(int lastModified);
 
+    /// Colours the row by its state. Every change of the state does so.
     void updateStyle();
 
 protected:

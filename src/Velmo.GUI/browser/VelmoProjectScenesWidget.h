@@ -32,6 +32,7 @@ class VELMO_GUI_EXPORT VelmoProjectScenesWidget : public QWidget
     Q_OBJECT
 
 public:
+    /// A panel without scenes and without a preview.
     explicit VelmoProjectScenesWidget(QWidget *parent = nullptr);
     ~VelmoProjectScenesWidget() override;
 
@@ -51,14 +52,17 @@ public:
     void clearScenes();
     /// Shows a scene under another name. An unknown name does nothing.
     void renameScene(const QString &oldName, const QString &newName);
+    /// How many scenes there are.
     int getSceneCount() const;
 
-    /// Whether the scene's toggle is on; false for an unknown name. Setting it emits nothing.
+    /// Turns the scene's toggle on or off. Emits nothing; an unknown name does nothing.
     void setSceneEnabled(const QString &name, bool enabled);
+    /// Whether the scene's toggle is on; false for an unknown name.
     bool isSceneEnabled(const QString &name) const;
 
     /// Selects the scene, or with an unknown name what `setDefaultSelection` does.
     void setSceneSelected(const QString &name);
+    /// Whether the selected scene has this name; with an empty one, whether none is selected.
     bool isSceneSelected(const QString &name) const;
     /// The selected scene's name, or an empty text.
     QString getSelectedScene() const;
@@ -87,9 +91,13 @@ signals:
     void accept();
     /// The cancel half has been pressed.
     void reject();
+    /// Another scene is selected, or none. A receiver that is done with the panel deletes it later.
     virtual void sceneSelectionChanged();
+    /// The delete button has been clicked.
     virtual void deleteScenePressed();
+    /// The clone button has been clicked.
     virtual void cloneScenePressed();
+    /// The add button at the end of the list has been clicked.
     virtual void newScenePressed();
     /// The user has typed another name for a scene. The list keeps the old one until `renameScene`.
     virtual void renameTriggered(QString oldName, QString newName);

@@ -23,12 +23,14 @@ class VELMO_GUI_EXPORT VelmoProjectsTable : public QWidget
     Q_OBJECT
 
 public:
+    /// A list without projects.
     explicit VelmoProjectsTable(QWidget *parent = nullptr);
     ~VelmoProjectsTable() override;
 
     /// Appends a project. A relative @p path is taken from the current folder of this moment; the file need not exist.
     /// @p lastModified is shown as given.
     void addProject(const QString &path, const QString &lastModified);
+    /// How many projects have been added.
     int getProjectCount() const;
 
     /// The selected project's path as it was given, or an empty text.
@@ -37,12 +39,14 @@ public:
     void setSelectedProject(const QString &path);
     /// Selects the first project, if there is one, and scrolls it to the middle.
     void setDefaultSelection();
+    /// Leaves nothing selected.
     void clearSelection();
 
     using QWidget::resize;
 
 signals:
-    /// A receiver that is done with the table deletes it later: the list is still at work.
+    /// Another project is selected, or none. A receiver that is done with the table deletes it later: the list is still
+    /// at work.
     void selectionChanged();
 
 private slots:

@@ -34,28 +34,35 @@ public:
              const QString &actorCount, const QString &vehicleCount, const QString &timeFramerate,
              const QString &version);
 
+    /// Shows another name; assistive tools and the list item are told it too.
     void setName(const QString &name);
+    /// The whole name, however much of it shows.
     QString getName() const;
 
     /// Whether the toggle is on. Emits nothing.
     void setAddEnabled(bool enabled);
+    /// Off at first.
     bool isAddEnabled() const;
-    /// Shows or hides the toggle.
+    /// Shows or hides the toggle. Without it a double click does not turn it round either.
     void setAddVisible(bool visible);
+    /// Whether the row has its toggle, on screen or not. Yes at first.
     bool isAddVisible() const;
 
     /// Mirrors the list's selection. Emits nothing.
     void setSelected(bool selected);
+    /// Off at first.
     bool isSelected() const;
 
-    /// Whether a double click on the name starts renaming.
+    /// Whether a double click on the name of a selected row starts renaming (default no).
     void setEditingEnabled(bool enabled);
 
+    /// The list item that was given.
     QListWidgetItem *getItem() const;
 
     /// Fixes the columns' widths, in logical pixels. The vehicles column keeps its own.
     void setWidths(int status, int lastModified, int bake, int actors, int timeFramerate, int version);
 
+    /// Colours the row and its toggle by the state. Every change of the state does so.
     void updateStyle();
     /// Ends renaming as if Return had been pressed.
     void finishEditing();

@@ -29,6 +29,7 @@ public:
         /// Title and text of the warning for the user, translated. Both are empty when there is nothing to tell: after
         /// success, and for a missing file, a malformed one and one that is no scene.
         QString warningTitle;
+        /// See `warningTitle`.
         QString warningText;
     };
 
@@ -56,6 +57,7 @@ public:
     QString bakeStatus;
     /// Counts are texts and are shown exactly as stored in the file, whatever they say.
     QString actorCount;
+    /// The same for vehicles.
     QString vehicleCount;
     /// Length and frame rate of the scene in one text, for example "00:02:30 | 25"; empty when unknown.
     QString timeFramerate;

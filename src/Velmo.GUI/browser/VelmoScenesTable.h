@@ -30,6 +30,7 @@ class VELMO_GUI_EXPORT VelmoScenesTable : public QWidget
     Q_OBJECT
 
 public:
+    /// A list without scenes.
     explicit VelmoScenesTable(QWidget *parent = nullptr);
     ~VelmoScenesTable() override;
 
@@ -40,12 +41,16 @@ public:
                   const QString &version, bool compatible);
     /// Removes all scenes without emitting `selectionChanged`. May be called from any signal of this table.
     void clearScenes();
+    /// Shows a scene under another name. An unknown name does nothing.
     void renameScene(const QString &oldName, const QString &newName);
+    /// Whether there is a scene of this name.
     bool hasScene(const QString &name) const;
+    /// How many scenes there are; the add button does not count.
     int getSceneCount() const;
 
-    /// Whether the scene's toggle is on. Setting it emits nothing.
+    /// Turns the scene's toggle on or off. Emits nothing; an unknown name does nothing.
     void setSceneEnabled(const QString &name, bool enabled);
+    /// False for an unknown name.
     bool isSceneEnabled(const QString &name) const;
     /// Names of the scenes whose toggle is on, in the order added.
     QStringList getEnabledScenes() const;
@@ -61,12 +66,14 @@ public:
     void setSelectedRow(int row);
     /// Selects the first scene whose toggle is on, else the first scene.
     void setDefaultSelection();
+    /// Leaves nothing selected.
     void clearSelection();
 
     /// Whether names can be edited and scenes added (default yes).
     void setEditingEnabled(bool enabled);
     /// Whether rows have toggles (default yes).
     void setMultiSelectionEnabled(bool enabled);
+    /// See `setMultiSelectionEnabled`.
     bool isMultiSelectionEnabled() const;
 
     /// Closes an open name edit and drops what has been typed.
@@ -75,7 +82,8 @@ public:
     using QWidget::resize;
 
 signals:
-    /// A receiver that is done with the table deletes it later: the list is still at work.
+    /// Another scene is selected, or none. A receiver that is done with the table deletes it later: the list is still
+    /// at work.
     void selectionChanged();
     /// The add button has been clicked.
     void newScenePressed();

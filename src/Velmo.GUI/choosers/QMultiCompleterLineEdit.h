@@ -23,6 +23,7 @@ class VELMO_GUI_EXPORT QMultiCompleterLineEdit : public QLineEdit
     Q_OBJECT
 
 public:
+    /// An empty line without a completer.
     explicit QMultiCompleterLineEdit(QWidget *parent = nullptr);
     ~QMultiCompleterLineEdit() override;
 
@@ -38,10 +39,12 @@ public:
 
     /// Completes the word at the cursor instead of the whole text: white space and commas part words. Off by default.
     void setCompleteEachWord(bool eachWord);
+    /// See `setCompleteEachWord`.
     bool completesEachWord() const;
 
     /// Finds what was typed anywhere inside a candidate instead of at its start. Off by default.
     void setMatchAnywhere(bool anywhere);
+    /// See `setMatchAnywhere`.
     bool matchesAnywhere() const;
 
 protected:

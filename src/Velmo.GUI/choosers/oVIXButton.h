@@ -7,41 +7,50 @@
 /// A text button, with an optional icon before the text and an optional checked state.
 ///
 /// The text is plain text; what is too long is shown with an ellipsis. The button answers the release, not the press,
-/// and only inside itself, so a left double click emits `clicked`, `doubleClicked` and
-/// `clicked` again. With a focus policy set, Space and Return press it.
+/// and only inside itself, so a left double click emits `clicked`, `doubleClicked` and `clicked` again. With a focus
+/// policy set, Space and Return press it.
 ///
 /// The look is the widget's own style sheet; a sheet set from outside takes its place, and may tell the checked state
 /// by the selector `[checked="true"]`.
 class VELMO_GUI_EXPORT oVIXButton : public QLabel
 {
     Q_OBJECT
+    /// The checked state, for style sheets to look at.
     Q_PROPERTY(bool checked READ isChecked WRITE setChecked)
 
 public:
+    /// A button without a text that is not checkable.
     explicit oVIXButton(QWidget *parent = nullptr);
+    /// The same with a text.
     explicit oVIXButton(const QString &text, QWidget *parent = nullptr);
     ~oVIXButton() override;
 
     /// Path of the SVG file shown before the text, such as ":/Windows/AddButton"; empty for none. As high as the text's
     /// line, and dimmed while the button is disabled.
     void setIcon(const QString &filename);
+    /// See `setIcon`.
     QString icon() const;
     /// The icon of the checked state; empty for the same one.
     void setCheckedIcon(const QString &filename);
+    /// See `setCheckedIcon`.
     QString checkedIcon() const;
 
     /// Whether a left click turns the checked state round before `clicked` is emitted. Off by default.
     void setCheckable(bool checkable);
+    /// See `setCheckable`.
     bool isCheckable() const;
     /// Can be set whether or not the button is checkable. Emits nothing.
     void setChecked(bool checked);
+    /// Off at first.
     bool isChecked() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 signals:
+    /// A left release inside the button, a press key, or `click`. The checked state is the new one already.
     void clicked();
+    /// The second press of a left double click; the `clicked` of its release follows.
     void doubleClicked();
     /// @p position is in global coordinates.
     void rightClicked(QPoint position);

@@ -35,6 +35,7 @@ class VELMO_GUI_EXPORT oVIXCombo : public QLabel
     Q_OBJECT
 
 public:
+    /// A combo without items, caption or choice.
     explicit oVIXCombo(QWidget *parent = nullptr);
     ~oVIXCombo() override;
 
@@ -44,10 +45,13 @@ public:
     void addItems(QList<QString> texts, QList<QString> metas);
     /// Removes all items and empties the choice. Override mode stays as it is.
     void clear();
+    /// How many items there are, those that are not enabled among them.
     int count() const;
+    /// Whether there are no items.
     bool isEmpty() const;
     /// Empty out of range, as for `itemMeta`.
     QString itemText(int index) const;
+    /// The hidden value of an item, as it was given.
     QString itemMeta(int index) const;
 
     /// -1 when nothing has been chosen. In override mode the index from before.
@@ -79,9 +83,11 @@ public:
 
     /// Turns override mode on or off, unless it is not allowed.
     void setOverride(bool on);
+    /// Whether it was turned on last, allowed or not.
     bool isOverride() const;
     /// Whether override mode can be turned on or off, and counts. On by default.
     void setAllowOverride(bool allow);
+    /// See `setAllowOverride`.
     bool allowOverride() const;
 
     /// Makes this a yes/no chooser: two items "YES" and "NO", @p caption as wide as there is room for.
@@ -112,8 +118,9 @@ signals:
     void dropped(QMimeData *data, QObject *source);
     /// The button was clicked while there are no items; the choice has been emptied.
     void resetCombo();
-    /// Around the time for which the menu is open; it keeps its own event loop.
+    /// The menu is about to open; it keeps its own event loop until `menuClosed`.
     void menuOpened();
+    /// The menu has closed, with a choice or without one.
     void menuClosed();
 
 protected:

@@ -8,6 +8,8 @@ class VELMO_GUI_EXPORT OvixThumbnailSizeWidget : public oVIXFloatingSelectorWidg
     Q_OBJECT
 
 public:
+    /// A pop-up without options, kept inside @p parent; without one, inside the screen. Call `setup` before it is
+    /// shown.
     explicit OvixThumbnailSizeWidget(QWidget *parent);
     ~OvixThumbnailSizeWidget() override;
 

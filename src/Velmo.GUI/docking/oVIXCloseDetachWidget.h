@@ -26,6 +26,7 @@ class VELMO_GUI_EXPORT oVIXCloseDetachWidget : public QFrame
     Q_OBJECT
 
 public:
+    /// A group with detach and close.
     explicit oVIXCloseDetachWidget(QWidget *parent);
     ~oVIXCloseDetachWidget() override;
 
@@ -51,12 +52,15 @@ public:
     /// What the pop-up shows as checked; nothing is emitted. 100 at first. A size that is not in
     /// `OvixThumbnailSize::Sizes` is kept too, and checks nothing.
     void setThumbnailSize(int size);
+    /// The size last set or chosen, in logical pixels.
     int getThumbnailSize() const;
 
 signals:
     /// The user has chosen a thumbnail size; it is kept already.
     void thumbClicked(int size);
+    /// The close button has been clicked.
     void closeClicked();
+    /// The detach button has been clicked.
     void detachClicked();
 
 private slots:

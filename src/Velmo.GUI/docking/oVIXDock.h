@@ -50,6 +50,7 @@ public:
 
     /// The size that the pop-up shows as checked: 100 at first. Setting it emits nothing.
     void setThumbnailSize(int size);
+    /// The size last set or chosen, in logical pixels.
     int getThumbnailSize() const;
 
     /// The header.

@@ -28,6 +28,7 @@ class VELMO_GUI_EXPORT oVIXDockBar : public QWidget
     Q_OBJECT
 
 public:
+    /// A header titled "DOCK BAR", without search, with detach and close.
     explicit oVIXDockBar(QWidget *parent);
     ~oVIXDockBar() override;
 
@@ -48,12 +49,17 @@ public:
     /// The search field.
     QMultiCompleterLineEdit *getSearchLabel() const;
 
-    // What the group of buttons offers: see oVIXCloseDetachWidget.
+    /// See `oVIXCloseDetachWidget::hideClose`.
     void hideClose();
+    /// See `oVIXCloseDetachWidget::hideDock`.
     void hideDock();
+    /// See `oVIXCloseDetachWidget::thumbAvailable`.
     void thumbAvailable();
+    /// See `oVIXCloseDetachWidget::setParentWindow`.
     void setParentWindow(QMainWindow *window);
+    /// See `oVIXCloseDetachWidget::setThumbnailSize`.
     void setThumbnailSize(int size);
+    /// See `oVIXCloseDetachWidget::getThumbnailSize`.
     int getThumbnailSize() const;
     /// Shows or hides the whole group.
     void showDetachCloseOptions(bool show);
@@ -62,7 +68,9 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
+    /// The close button has been clicked; the panel does the closing.
     void closeClicked();
+    /// The detach button has been clicked; the panel does the rest.
     void detachClicked();
     /// The user has chosen a thumbnail size.
     void thumbClicked(int size);

@@ -35,6 +35,7 @@ public:
     void setVisible(bool visible) override;
 
 signals:
+    /// It is being shown, by `showAt` before it has its final place.
     void shown();
     /// It is hidden, by itself or by its owner.
     void hidden();

@@ -11,19 +11,24 @@ class VELMO_GUI_EXPORT OvixSvgButton : public OvixSvgLabel
     Q_OBJECT
 
 public:
+    /// A button without a picture that is not checkable.
     explicit OvixSvgButton(QWidget *parent = nullptr);
     ~OvixSvgButton() override;
 
     /// Whether a left click turns the checked state round before `clicked` is emitted. Off by default.
     void setCheckable(bool checkable);
+    /// See `setCheckable`.
     bool isCheckable() const;
 
     /// Leaves left releases to the parent widget: no `clicked`, no check. Off by default.
     void setIgnoreSingleClick(bool ignore);
+    /// See `setIgnoreSingleClick`.
     bool ignoresSingleClick() const;
 
 signals:
+    /// A left release over the button, a press key, or `click`. The checked state is the new one already.
     void clicked();
+    /// The second press of a left double click; the `clicked` of its release follows.
     void doubleClicked();
     /// @p position is in global coordinates.
     void rightClicked(QPoint position);

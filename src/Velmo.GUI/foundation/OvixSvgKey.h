@@ -48,10 +48,14 @@ struct OvixSvgKey
     QList<OvixSvgLayer> layers;
 };
 
+/// Of everything that a layer has.
 VELMO_GUI_EXPORT size_t qHash(const OvixSvgLayer &layer, size_t seed = 0) noexcept;
+/// Of everything but the shadow.
 VELMO_GUI_EXPORT size_t qHash(const OvixSvgKey &key, size_t seed = 0) noexcept;
 
+/// Whether both name the same shared picture: equal hashes with seed 0.
 VELMO_GUI_EXPORT bool operator==(const OvixSvgKey &left, const OvixSvgKey &right) noexcept;
+/// The opposite.
 inline bool operator!=(const OvixSvgKey &left, const OvixSvgKey &right) noexcept
 {
     return !(left == right);

@@ -11,7 +11,8 @@
 /// from `OvixSvgRenderer` and are fetched while painting only; the label generates its own style sheet. All lengths are
 /// logical pixels. Keyboard focus draws a ring; the focus policy is none until the application sets one.
 ///
-/// A style sheet given from outside is replaced at the next paint after a styling setter or `setChecked`.
+/// A style sheet given from outside is replaced at the first paint, and at the next one after a styling setter or
+/// `setChecked`.
 class VELMO_GUI_EXPORT OvixSvgLabel : public QLabel
 {
     Q_OBJECT
@@ -25,9 +26,17 @@ public:
     Q_ENUM(ImageShape)
 
     /// The colours of the generated style sheet. Any other value leaves them empty.
-    enum ColorScheme : int { Black = 0, Charcoal = 1, CharcoalBlue = 2, Grey = 3, White = 4, GraphiteBlue = 5 };
+    enum ColorScheme : int {
+        Black = 0, ///< deepest background at rest and checked, lightened under the pointer
+        Charcoal = 1, ///< main background, dark grey under the pointer and checked
+        CharcoalBlue = 2, ///< main background, accent under the pointer and checked
+        Grey = 3, ///< dark grey, raised under the pointer, near white checked
+        White = 4, ///< near white in every state
+        GraphiteBlue = 5 ///< raised, lightened under the pointer, translucent accent checked
+    };
     Q_ENUM(ColorScheme)
 
+    /// A label without a picture, unchecked.
     explicit OvixSvgLabel(QWidget *parent = nullptr);
     ~OvixSvgLabel() override;
 
@@ -39,7 +48,9 @@ public:
     void setFilenames(const QList<QString> &filenames);
     /// The same for a second picture that replaces pixel inversion. It is not dimmed while disabled.
     void setFilenameInverted(const QString &filename);
+    /// As `setFilenames`, for the second picture.
     void setFilenamesInverted(const QList<QString> &filenames);
+    /// Whether there is a layer; the second picture does not count.
     bool hasFilenames() const;
     /// The file of the first layer, empty without layers.
     QString firstFilename() const;
@@ -49,15 +60,19 @@ public:
     /// build and does nothing in a release build. The inverted files are not touched.
     void setRenderList(const QList<QString> &elementIds, int layer);
 
-    /// Empty border inside the picture.
+    /// Empty border inside the picture, in which nothing is drawn; 0 by default.
     void setMargins(int margin);
+    /// The same, each side by itself. For both pictures.
     void setMargins(int left, int top, int right, int bottom);
-    /// Padding of the style sheet.
+    /// Padding of the style sheet, 0 by default.
     void setPadding(int padding);
+    /// The same, each side by itself. With 0 on all sides the sheet has no padding.
     void setPadding(int left, int top, int right, int bottom);
-    /// Margins of the style sheet, outside the background.
+    /// Margins of the style sheet, outside the background; 0 by default.
     void setBackgroundMargins(int margin);
+    /// The same, each side by itself.
     void setBackgroundMargins(int left, int top, int right, int bottom);
+    /// The same, as margins.
     void setBackgroundMargins(const QMargins &margins);
     /// Radius of the background's corners; 0 or less for square ones.
     void setRoundedBorder(int radius);
@@ -71,7 +86,7 @@ public:
 
     /// The picture's inversion when neither check nor hover turns it round.
     void setInverted(bool inverted);
-    /// 0.0 to 1.0; a disabled label shows a fifth of it.
+    /// 0.0 to 1.0, 1.0 by default; a disabled label shows a fifth of it.
     void setOpacity(double opacity);
     /// Whether being checked turns the inversion round (default yes).
     void setInvertOnCheck(bool invert);
@@ -80,7 +95,9 @@ public:
     /// `Square` by default. Shows at the next paint, which it does not ask for.
     void setImageShape(ImageShape shape);
 
+    /// Shows the checked look or the normal one. Emits nothing; assistive tools are told of a change.
     void setChecked(bool checked);
+    /// Off at first.
     bool isChecked() const;
 
     /// Brings picture and style sheet up to date. Every paint does so; owners may want it earlier.

@@ -21,6 +21,7 @@ class VELMO_GUI_EXPORT OvixSvgRenderer : public QObject
     Q_OBJECT
 
 public:
+    /// The service needs no object: its functions are static.
     OvixSvgRenderer();
     ~OvixSvgRenderer() override;
 

@@ -21,7 +21,9 @@ class VELMO_GUI_EXPORT QAnimatedLabel : public QClickableLabel
     Q_OBJECT
 
 public:
+    /// A label without frames, standing still.
     explicit QAnimatedLabel(QWidget *parent = nullptr, Qt::WindowFlags flags = {});
+    /// The same, showing @p text until frames are shown.
     explicit QAnimatedLabel(const QString &text, QWidget *parent = nullptr, Qt::WindowFlags flags = {});
     ~QAnimatedLabel() override;
 

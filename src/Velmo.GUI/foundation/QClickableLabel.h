@@ -13,17 +13,23 @@ class VELMO_GUI_EXPORT QClickableLabel : public QLabel
     Q_OBJECT
 
 public:
+    /// An empty label.
     explicit QClickableLabel(QWidget *parent = nullptr, Qt::WindowFlags flags = {});
+    /// A label that shows @p text, plain or rich as in any `QLabel`.
     explicit QClickableLabel(const QString &text, QWidget *parent = nullptr, Qt::WindowFlags flags = {});
     ~QClickableLabel() override;
 
     /// Leaves left presses and releases to the parent widget; double clicks are still answered. Off by default.
     void setIgnoreSingleClick(bool ignore);
+    /// See `setIgnoreSingleClick`.
     bool ignoresSingleClick() const;
 
 signals:
+    /// The left button has been pressed on the label, or `click` called.
     void clicked();
+    /// The second press of a left double click, in place of its `clicked`.
     void doubleClicked();
+    /// The left button has been released after a press on the label, wherever the pointer is by then; after `clicked`.
     void clickReleased();
 
 public slots:

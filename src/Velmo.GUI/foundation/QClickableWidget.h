@@ -11,10 +11,12 @@ class VELMO_GUI_EXPORT QClickableWidget : public QWidget
     Q_OBJECT
 
 public:
+    /// A widget that shows nothing of its own.
     explicit QClickableWidget(QWidget *parent = nullptr);
     ~QClickableWidget() override;
 
 signals:
+    /// The left button has been pressed on the widget, or `click` called. A double click emits it twice.
     void clicked();
 
 public slots:

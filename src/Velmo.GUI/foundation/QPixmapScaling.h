@@ -14,6 +14,8 @@ class VELMO_GUI_EXPORT QPixmapScaling
 public:
     /// The largest picture within the size that keeps the pixmap's aspect ratio.
     static QPixmap scale(const QPixmap &pixmap, int width, int height, double devicePixelRatio);
+    /// The picture at this width, as high as its aspect ratio makes it.
     static QPixmap scaleToWidth(const QPixmap &pixmap, int width, double devicePixelRatio);
+    /// The picture at this height, as wide as its aspect ratio makes it.
     static QPixmap scaleToHeight(const QPixmap &pixmap, int height, double devicePixelRatio);
 };

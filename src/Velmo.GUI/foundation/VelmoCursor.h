@@ -14,6 +14,7 @@ class QWidget;
 class VELMO_GUI_EXPORT VelmoCursor
 {
 public:
+    /// What a pointer says.
     enum Shape {
         /// The usual pointer.
         Arrow,

@@ -14,6 +14,7 @@ class VELMO_GUI_EXPORT oVIXAspectRatioLabel : public QLabel
     Q_OBJECT
 
 public:
+    /// A label without a picture.
     explicit oVIXAspectRatioLabel(QWidget *parent = nullptr);
     ~oVIXAspectRatioLabel() override;
 
@@ -26,6 +27,7 @@ public:
     int heightForWidth(int width) const override;
     /// The current width and the height that fits it.
     QSize sizeHint() const override;
+    /// Scales the kept picture anew.
     void resizeEvent(QResizeEvent *event) override;
 
 private:

@@ -12,6 +12,7 @@ class VELMO_GUI_EXPORT oVIXFrameBorder : public QFrame
     Q_OBJECT
 
 public:
+    /// An empty frame.
     explicit oVIXFrameBorder(QWidget *parent = nullptr);
     ~oVIXFrameBorder() override;
 };

@@ -12,6 +12,7 @@ class VELMO_GUI_EXPORT oVIXLabelTitle : public QLabel
     Q_OBJECT
 
 public:
+    /// A title without a text.
     explicit oVIXLabelTitle(QWidget *parent = nullptr);
     ~oVIXLabelTitle() override;
 };

@@ -12,6 +12,7 @@ class VELMO_GUI_EXPORT oVIXLineEdit : public QLineEdit
     Q_OBJECT
 
 public:
+    /// An empty line.
     explicit oVIXLineEdit(QWidget *parent = nullptr);
     ~oVIXLineEdit() override;
 };

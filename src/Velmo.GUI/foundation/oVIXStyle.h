@@ -13,6 +13,7 @@ class VELMO_GUI_EXPORT oVIXStyle : public QProxyStyle
     Q_OBJECT
 
 public:
+    /// A style on top of a "Fusion" of its own.
     oVIXStyle();
     ~oVIXStyle() override;
 

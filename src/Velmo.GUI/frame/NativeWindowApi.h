@@ -13,11 +13,16 @@
 class VELMO_GUI_EXPORT NativeWindowApi
 {
 public:
+    /// A window of the system, of whatever program.
     using Handle = void *;
 
     /// The keys that can be asked for. Any other number is a key that is never down.
-    enum Key : int { Escape = 0, Return = 1 };
+    enum Key : int {
+        Escape = 0, ///< the Escape key
+        Return = 1 ///< the Return key of the main block
+    };
 
+    /// The table; always the same one.
     static NativeWindowApi &instance();
 
     /// Whether the key is held down now. Never on systems where the toolkit cannot tell.

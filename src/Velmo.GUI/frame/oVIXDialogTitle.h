@@ -15,6 +15,7 @@ class VELMO_GUI_EXPORT oVIXDialogTitle : public QFrame
     Q_OBJECT
 
 public:
+    /// A strip for @p parent, the dialog, which owns it and gives it its width.
     explicit oVIXDialogTitle(QWidget *parent);
     ~oVIXDialogTitle() override;
 
@@ -26,6 +27,7 @@ public:
     void setCloseEnabled(bool enabled);
 
 signals:
+    /// The close button has been clicked; the dialog does the closing.
     void closeClicked();
 
 protected:

@@ -14,7 +14,13 @@ class VELMO_GUI_EXPORT oVIXGrip : public QLabel
     Q_OBJECT
 
 public:
-    enum GripPosition : int { Top = 0, Left = 1, Right = 2, Bottom = 3 };
+    /// The edge of the parent that the strip lies along.
+    enum GripPosition : int {
+        Top = 0, ///< changes the height, and moves the top edge
+        Left = 1, ///< changes the width, and moves the left edge
+        Right = 2, ///< changes the width
+        Bottom = 3 ///< changes the height
+    };
     Q_ENUM(GripPosition)
 
     /// @p inset is kept free at the strip's ends (the side strips start at the very top all the same); @p thickness is

@@ -24,19 +24,24 @@ class VELMO_GUI_EXPORT oVIXMainWindow : public QMainWindow
     Q_OBJECT
 
 public:
+    /// A window without a parent.
     oVIXMainWindow();
     /// @p screen is kept for subclasses.
     oVIXMainWindow(QWidget *parent, QScreen *screen);
     ~oVIXMainWindow() override;
 
-    /// What subclasses do when a wait starts. @p delayed: the overlay shows only after its start delay.
+    /// What subclasses do when a wait starts, and at every further start while it runs. @p delayed: the overlay shows
+    /// only after its start delay. Nothing here.
     virtual void startWaitEvent(bool delayed);
+    /// What subclasses do when a wait that ran has ended; the overlay is hidden by then. Nothing here.
     virtual void endWaitEvent();
-    /// Called before the block overlay shows, and after it is hidden.
+    /// What subclasses do before the block overlay shows. Nothing here.
     virtual void showWindowBlockEvent();
+    /// The same after it has been hidden. Nothing here.
     virtual void hideWindowBlockEvent();
     /// Side of the square corner grips in logical pixels: 5. The edge strips do not depend on it.
     virtual int gripSize() const;
+    /// For windows that show the open scenes as tabs: brings these up to date. Nothing here, and nothing here calls it.
     virtual void updateSceneTabs();
 
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -44,7 +49,9 @@ public:
     /// Enables or disables all eight grips.
     void setGripsEnabled(bool enabled);
 
+    /// The dimming overlay, owned by the window.
     oVIXWindowBlock *getWindowBlock() const;
+    /// The busy overlay, owned by the window; long operations report to it.
     oVIXWindowWaitGlobal *getWindowWait() const;
 
     /// Tries an operation that may fail while another program holds a resource, until it succeeds, @p attempts are used
@@ -56,7 +63,7 @@ public:
     bool attemptMultipleTimes(int attempts, int sleepMsecs, const std::function<bool()> &attempt, bool *cancelled);
 
 signals:
-    /// The window is being closed.
+    /// The window is being closed; a receiver cannot stop that.
     void closed();
 
 public slots:
@@ -70,10 +77,13 @@ public slots:
     void startWaitDelayed();
     /// Ends the wait; nothing when none runs.
     void endWait();
+    /// Dims the window, as a modal dialog does; nothing while it is dimmed. Calls `showWindowBlockEvent` before.
     void showWindowBlock();
+    /// Takes the dimming away; nothing while there is none. Calls `hideWindowBlockEvent` afterwards.
     void hideWindowBlock();
     /// One step of an edge grip. Nothing while the window is maximised.
     void resizeByGrip(QPoint p, bool invert);
+    /// Emits `closed` and lets the window close: a subclass that may refuse asks before it calls this.
     void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;

@@ -17,6 +17,8 @@ class VELMO_GUI_EXPORT oVIXTitleBar : public oVIXTitleBarFilter
     Q_OBJECT
 
 public:
+    /// Gives @p menuBar its look and these window buttons, which the menu bar owns. Null makes a title bar that does
+    /// nothing.
     oVIXTitleBar(QMenuBar *menuBar, bool showMinimize, bool showMaximize, bool showClose);
     ~oVIXTitleBar() override;
 
@@ -24,6 +26,7 @@ public:
     bool canClick(const QPoint &pos) override;
     /// Emits `maximized`, whatever the window's state: the receiver turns it round.
     void maximize() override;
+    /// Keeps the logo in the middle, besides what the base class does.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     /// The row of window buttons; null without a menu bar.
@@ -33,8 +36,11 @@ public:
     void setLogo(const QString &filename, const QSize &size);
 
 signals:
+    /// The user wants the window minimised.
     void minimized();
+    /// The user wants the window maximised, or restored if it is: a click on the middle button or a double click.
     void maximized();
+    /// The user wants the window closed.
     void closed();
 
 private:

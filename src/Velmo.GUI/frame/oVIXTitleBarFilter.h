@@ -28,7 +28,9 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
+    /// The widget that serves as the title; null once it is gone.
     QWidget *titleWidget() const;
+    /// The window that is moved; null without one.
     QWidget *window() const;
 
 private:

@@ -18,6 +18,7 @@ public:
     /// Black with alpha 190.
     static const QColor BackgroundColor;
 
+    /// A pane over @p parent. It follows that size from now on, shown or not.
     explicit oVIXWindowBlock(QWidget *parent);
     ~oVIXWindowBlock() override;
 

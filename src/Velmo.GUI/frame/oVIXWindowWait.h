@@ -22,12 +22,16 @@ class VELMO_GUI_EXPORT oVIXWindowWait : public oVIXWindowBlock,
     Q_OBJECT
 
 public:
-    /// Published for the application; the drawing does not use them. A frame of the mark shows for a third of a second.
+    /// How many pictures the busy mark has. Each shows for a third of a second.
     static constexpr int MovieFrames = 12;
+    /// Milliseconds a picture, published for the application's own marks; the overlay does not use it.
     static constexpr int MovieFrameSpeedMsecs = 83;
+    /// Columns of a sheet with the mark's pictures, published as well.
     static constexpr int MovieSlices = 4;
+    /// Rows of such a sheet.
     static constexpr int MovieStacks = 3;
 
+    /// An overlay over @p parent, without text or percentage.
     explicit oVIXWindowWait(QWidget *parent);
     ~oVIXWindowWait() override;
 
@@ -36,16 +40,26 @@ public:
     /// Hides the overlay, stops the busy mark and repaints the widgets to update.
     virtual void endWait();
 
+    /// The line of text, from any thread. It shows with the next tick or report.
     void setText(QString text);
+    /// The line of text, from any thread; empty at first.
     QString getText();
+    /// Whether there is no text, from any thread.
     bool isTextEmpty();
+    /// The percentage, from any thread, shown as it is given. It shows with the next tick or report.
     void setPercent(int percent);
+    /// The percentage, from any thread; 0 at first.
     int getPercent();
+    /// The same as `setPercent`.
     void percentEvent(int percent) override;
 
+    /// Whether the line of text shows (default no). GUI thread.
     void setTextVisible(bool visible);
+    /// See `setTextVisible`.
     bool isTextVisible() const;
+    /// Whether the percentage shows (default no). GUI thread.
     void setPercentVisible(bool visible);
+    /// See `setPercentVisible`.
     bool isPercentVisible() const;
 
     /// A widget that is repainted on every tick of the busy mark, every 50 ms. Not owned.
@@ -65,7 +79,9 @@ protected:
 
     /// Starts the 50 ms tick unless it runs.
     void startTicks();
+    /// Lets the mark begin with its first picture.
     void rewindMovie();
+    /// Whether the caller is on the thread of this widget.
     bool isOnGuiThread() const;
 
 private:

@@ -16,12 +16,15 @@ public:
     /// The delay of a delayed start, in milliseconds.
     static constexpr int DelayStartMsecs = 1000;
 
+    /// An overlay over @p parent, without a wait.
     explicit oVIXWindowWaitGlobal(QWidget *parent);
     ~oVIXWindowWaitGlobal() override;
 
     /// Begins a wait without showing it yet. Nothing but the tick while one runs.
     void startWait(bool delayed);
+    /// Ends the wait and its delay, and hides the overlay.
     void endWait() override;
+    /// Between `startWait` and `endWait`, whether the overlay shows or not. From any thread.
     bool isRunning() const;
 
     /// Number of this wait's delay thread, 0 without one. Numbers count up and are not used twice.
@@ -32,6 +35,8 @@ public:
     /// none.
     void applicationCrashed(void *context, void (*callback)(void *));
 
+    /// Shows the overlay when a wait runs and its start delay is over; else, and from other threads, only keeps a text
+    /// that is not empty.
     void progressEvent(QString text) override;
     using oVIXWindowWait::progressEvent;
 

@@ -74,9 +74,13 @@ private slots:
     void singleSecondTriggered();
 
 public slots:
+    /// Ends the run with `MsgAccepted`.
     void fnAccept();
+    /// Ends the run with `MsgRejected`.
     void fnReject();
+    /// Ends the run with `MsgOther`.
     void fnOther();
+    /// Writes what is typed to the target of `showEditable`, if there is one.
     void readFromEditable();
     /// The text of the other option, which is 84 logical pixels wide or as wide as its text needs.
     void setOtherOption(QString otheroption);
@@ -111,18 +115,27 @@ private:
 class VELMO_GUI_EXPORT VelmoMessageClass
 {
 public:
-    /// A @p height above 0 fixes the height of the box.
+    /// Builds the box; the texts are those of `VelmoMessageWidget`. A @p height above 0 fixes its height, in logical
+    /// pixels.
     VelmoMessageClass(QString kind, QString title, QString text, bool stayOnTop, int height, QWidget *parent,
                       QScreen *screen);
+    /// The same box.
     VelmoMessageClass(const VelmoMessageClass &other);
+    /// Means the box of @p other from now on; the one before goes on living with its parent.
     VelmoMessageClass &operator=(const VelmoMessageClass &other);
     ~VelmoMessageClass();
 
+    /// See `VelmoMessageWidget::setButtonMode`.
     void setButtonMode(VelmoButtonMode mode);
+    /// See `VelmoMessageWidget::setButtonText`.
     void setButtonText(QString text);
+    /// See `VelmoMessageWidget::setButtonMessage`.
     void setButtonMessage(QString text);
+    /// See `VelmoMessageWidget::setOtherOption`.
     void setOtherOption(QString text);
+    /// See `VelmoMessageWidget::showEditable`.
     void showEditable(bool show, QString *target);
+    /// See `VelmoMessageWidget::setMinimumWaitSeconds`.
     void setMinimumWaitSeconds(int seconds);
 
     /// Runs the box until it is answered, and closes it.
@@ -132,24 +145,35 @@ private:
     QPointer<VelmoMessageWidget> m_widget;
 };
 
-// Every one builds a box, runs it until it is answered and deletes it. The texts are those of VelmoMessageWidget;
-// parent and screen may be null.
+/// @name Boxes in one call
+/// Every one builds a box, runs it until it is answered and deletes it. The texts are those of `VelmoMessageWidget`;
+/// parent and screen may be null. GUI thread only.
+/// @{
 
+/// Tells something: kind word "INFORMATION", buttons "OK" and cancel.
 VELMO_GUI_EXPORT VelmoMsgReturnCode VelmoInfoMessage(QString title, QString text, QWidget *parent, QScreen *screen);
-/// A @p height above 0 fixes the height of the box.
+/// Warns: kind word "WARNING", buttons "OK" and cancel. A @p height above 0 fixes the height of the box, in logical
+/// pixels.
 VELMO_GUI_EXPORT VelmoMsgReturnCode VelmoWarningMessage(QString title, QString text, int height, QWidget *parent,
                                                         QScreen *screen);
-/// Draws the user's attention to the parent's window too.
+/// Asks: kind word "QUESTION", buttons "YES" and cancel. Draws the user's attention to the parent's window too.
 VELMO_GUI_EXPORT VelmoMsgReturnCode VelmoQuestionMessage(QString title, QString text, QWidget *parent, QScreen *screen);
-/// Edits @p edited, which gets every change as it is typed, even when the box is rejected in the end.
+/// Edits @p edited, which gets every change as it is typed, even when the box is rejected in the end. With null the
+/// line starts empty and what is typed is lost.
 VELMO_GUI_EXPORT VelmoMsgReturnCode VelmoEditMessage(QString kind, QString title, QString *edited, QWidget *parent,
                                                      QScreen *screen);
+/// Asks with a third button, which says @p otherText.
 VELMO_GUI_EXPORT VelmoMsgReturnCode VelmoThreeOptionMessage(QString kind, QString title, QString text,
                                                             QString otherText, QWidget *parent, QScreen *screen);
+/// Asks with an OK half of these words and a message left of the buttons. @p stayOnTop keeps the box above the windows
+/// of other programs.
 VELMO_GUI_EXPORT VelmoMsgReturnCode VelmoCustomMessage(QString kind, QString title, QString text, QString buttonText,
                                                        QString buttonMessage, bool stayOnTop, QWidget *parent,
                                                        QScreen *screen);
-/// Holds the buttons back for @p waitSeconds when that is above 0.
+/// Asks with an OK half and a third button of these words. Holds the buttons back for @p waitSeconds when that is above
+/// 0. @p stayOnTop keeps the box above the windows of other programs.
 VELMO_GUI_EXPORT VelmoMsgReturnCode VelmoCustomThreeOptionMessage(QString kind, QString title, QString text,
                                                                   QString buttonText, QString otherText, bool stayOnTop,
                                                                   int waitSeconds, QWidget *parent, QScreen *screen);
+
+/// @}

@@ -22,14 +22,17 @@ class VELMO_GUI_EXPORT VelmoYesNoWidget : public QLabel
     Q_OBJECT
 
 public:
+    /// A strip without a message whose OK half does not answer.
     explicit VelmoYesNoWidget(QWidget *parent = nullptr);
     ~VelmoYesNoWidget() override;
 
     /// "OK" at first. The OK half stays as wide as it is; what is too long is wrapped.
     void setOkText(QString text);
+    /// What the OK half says.
     QString getOkText() const;
     /// The message on the left, empty at first; rich text is shown as such.
     void setMsgText(QString text);
+    /// The message, as it was given.
     QString getMsgText() const;
     /// The tool tip of the whole strip.
     void setOkTooltip(const QString &text);
@@ -47,6 +50,7 @@ public:
     void enableOkButton(bool enable);
     /// Whether OK answers and is coloured.
     void enableOkButtonAndColor(bool enable);
+    /// Whether OK answers.
     bool getEnableOkButton() const;
 
     /// Lets Return and Enter press OK and Escape press cancel, anywhere in the window. Every further call makes a key
@@ -56,7 +60,9 @@ public:
     void disableKeyboardShorcuts();
 
 signals:
+    /// The OK half has been pressed, or its key, while OK answers.
     void accept();
+    /// The cancel half has been pressed, or its key.
     void reject();
 
 private slots:
@@ -65,6 +71,7 @@ private slots:
 protected:
     /// Whether the OK half is painted in the caption colours.
     void enableCaptionColor(bool enable);
+    /// See `enableCaptionColor`.
     bool getEnableCaptionColor() const;
 
 private:

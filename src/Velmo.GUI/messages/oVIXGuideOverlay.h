@@ -61,6 +61,7 @@ public slots:
 signals:
     /// The user has gone on from the last step, or has skipped.
     void sgGuideFinished();
+    /// More or less of the step's picture is revealed.
     void sgAnimationProgressChanged(float progress);
 
 private slots:

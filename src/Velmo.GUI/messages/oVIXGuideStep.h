@@ -13,8 +13,11 @@ class QWidget;
 class VELMO_GUI_EXPORT oVIXGuideStep
 {
 public:
+    /// A step with these texts.
     oVIXGuideStep(QString title, QString description);
+    /// Copies the texts.
     oVIXGuideStep(const oVIXGuideStep &other);
+    /// Takes over the texts of @p other; a tour that shows this step shows them when it comes to the step again.
     oVIXGuideStep &operator=(const oVIXGuideStep &other);
     virtual ~oVIXGuideStep();
 
@@ -22,6 +25,7 @@ public:
     /// to what is revealed by now; it belongs to this step alone and may be left in any state. Called by every repaint
     /// of a transition, so keep what takes long to draw.
     virtual void paintStep(QPainter *painter, QWidget *overlay) = 0;
+    /// The line above the description.
     virtual QString stepTitle() const;
     /// Shown without word wrap: break long lines.
     virtual QString stepDescription() const;

@@ -11,6 +11,7 @@ class VELMO_GUI_EXPORT QListWidgetNoDrag : public QListWidget
     Q_OBJECT
 
 public:
+    /// An empty list.
     explicit QListWidgetNoDrag(QWidget *parent = nullptr);
     ~QListWidgetNoDrag() override;
 

@@ -11,6 +11,7 @@ class VELMO_GUI_EXPORT oVIXAutoHideLine : public QLineEdit
     Q_OBJECT
 
 public:
+    /// A hidden line in these colours, shown opaque.
     oVIXAutoHideLine(QWidget *parent, const QColor &background, const QColor &text);
     ~oVIXAutoHideLine() override;
 

@@ -25,6 +25,7 @@ class VELMO_GUI_EXPORT oVIXDragDropListWidget : public QListWidget
     Q_MOC_INCLUDE(<QMouseEvent>)
 
 public:
+    /// A list without tags.
     explicit oVIXDragDropListWidget(QWidget *parent = nullptr);
     ~oVIXDragDropListWidget() override;
 
@@ -42,10 +43,12 @@ public:
 
     /// Whether tags added from now on show an optional button (default yes).
     void setShowAllButtons(bool show);
+    /// See `setShowAllButtons`.
     bool getShowAllButtons() const;
 
     /// What the list's drags carry and which drags it accepts (default 0). `VelmoDropData::NoType` accepts none.
     void setDropType(VelmoDropData::Type type);
+    /// See `setDropType`.
     VelmoDropData::Type getDropType() const;
 
     void doItemsLayout() override;
@@ -63,10 +66,13 @@ signals:
 public slots:
     /// Drags the tag that sends the signal. Returns when the drag is over. Nothing without a tag or an event.
     void dragTriggered(QMouseEvent *event);
+    /// Removes all rows, the add tag's too.
     void clear();
-    /// For the signals of a tag of this list; nothing when called from elsewhere, as the next one.
+    /// For the button of a tag of this list: emits `wantsChange`. Nothing when called from elsewhere, as the next one.
     void fnWantsAction();
+    /// For a double click on a tag of this list: emits `wantsMove`.
     void fnWantsMove();
+    /// For what has been typed into the add tag: emits `addNewItem`.
     void fnAdd(QString text);
 
 protected:

@@ -27,8 +27,8 @@ class oVIXDragDropTags;
 /// (default yes, which moves); deleting asks the user first. Each list keeps its tags sorted ahead of its add tag. A
 /// tag that has moved is a new one, enabled and in the other list's colours.
 ///
-/// Rows that do not exist, rows without a tag and drops from elsewhere do nothing. The owner may change the lists or
-/// delete the editor from any signal and while the question is up.
+/// Rows that do not exist and drops from elsewhere do nothing, and a row without a tag does not move. The owner may
+/// change the lists or delete the editor from any signal and while the question is up.
 class VELMO_GUI_EXPORT oVIXDragDropTags : public QWidget
 {
     Q_OBJECT
@@ -36,30 +36,41 @@ class VELMO_GUI_EXPORT oVIXDragDropTags : public QWidget
     Q_MOC_INCLUDE("tags/oVIXDragDropListWidget.h")
 
 public:
+    /// Two lists without tags.
     explicit oVIXDragDropTags(QWidget *parent = nullptr);
     ~oVIXDragDropTags() override;
 
-    /// Adds a tag, the add tag too, and returns its row's item, which the list owns until the tag moves or goes.
+    /// Adds a tag to the left list, the add tag too, and returns its row's item, which the list owns until the tag
+    /// moves or goes.
     QListWidgetItem *addLeftItem(QString text, DRAG_BUTTON button);
+    /// The same in the right list.
     QListWidgetItem *addRightItem(QString text, DRAG_BUTTON button);
+    /// Adds a tag for each of these texts to the left list.
     void addLeftItems(QList<QString> texts, DRAG_BUTTON button);
+    /// The same in the right list.
     void addRightItems(QList<QString> texts, DRAG_BUTTON button);
-    /// Removes all tags, the add tag too.
+    /// Removes all tags of the left list, the add tag too.
     void clearLeft();
+    /// The same in the right list.
     void clearRight();
 
-    /// The texts in the order of the rows, the add tag's among them.
+    /// The texts of the left list in the order of the rows, the add tag's among them.
     QList<QString> getLeftTags() const;
+    /// The same of the right list.
     QList<QString> getRightTags() const;
 
-    /// Plain text; the name of the list for assistive tools too.
+    /// What is written above the left list, as plain text; its name for assistive tools too.
     void setLeftTitle(QString title);
+    /// The same for the right list.
     void setRightTitle(QString title);
-    /// For all tags of the list and those that it gets later.
+    /// For all tags of the left list and those that it gets later. Shown opaque.
     void setLeftTagColors(QColor background, QColor text);
+    /// The same for the right list.
     void setRightTagColors(QColor background, QColor text);
-    /// Whether a tag's button moves the tag. Tags added from now on show optional buttons only where it does.
+    /// Whether the button of a tag in the left list moves it. Tags added from now on show optional buttons only where
+    /// it does.
     void setLeftShowAllButtons(bool show);
+    /// The same for the right list.
     void setRightShowAllButtons(bool show);
     /// What is dragged between the lists (default 0).
     void setDropType(VelmoDropData::Type type);
@@ -83,14 +94,17 @@ signals:
     void genericTagChanged(int direction);
 
 public slots:
-    /// Moves the tag of this row to the other list.
+    /// Moves the tag of this row of the left list to the right one.
     void fnLeftMove(int row);
+    /// The same from the right list.
     void fnRightMove(int row);
     /// The button of this row's tag: moves the tag, or deletes it if the user agrees. Returns after the question.
     void fnLeftChange(int row);
+    /// The same in the right list.
     void fnRightChange(int row);
-    /// Adds a removable tag, unless the list has one of this text already, whatever its case.
+    /// Adds a removable tag and emits `newItemAdded`, unless the list has one of this text already, whatever its case.
     void fnLeftAddNewItem(QString text);
+    /// The same in the right list.
     void fnRightAddNewItem(QString text);
     /// Tells the tags of this list with `userTagChanged` if its show-all-buttons flag is set.
     void fnChangedList(oVIXDragDropListWidget *list);

@@ -10,7 +10,7 @@ class oVIXAutoHideLine;
 
 /// The button area of a tag.
 enum DRAG_BUTTON {
-    BUTTON_NONE = 0,
+    BUTTON_NONE = 0, ///< none
     BUTTON_REMOVE_OPTIONAL = 1, ///< a cross, where the tag is told to show buttons
     BUTTON_REMOVE = 2, ///< a cross, always
     BUTTON_ADD = 3 ///< a plus that opens a line for a new tag
@@ -36,7 +36,9 @@ public:
     /// An add tag's line keeps the colours that it was made with.
     void setColors(const QColor &background, const QColor &text);
 
+    /// The button that the tag was made with, whether it shows or not.
     DRAG_BUTTON getButtonOptions() const;
+    /// Whether this is the add tag.
     bool isAdd() const;
 
 signals:
@@ -55,6 +57,7 @@ public slots:
     void fnAddClicked();
     /// Tells what is typed in the line and empties it.
     void fnAddNewTag();
+    /// Hides the line; what is typed in it stays.
     void fnHideLine();
 
 protected:

@@ -17,12 +17,15 @@ class VELMO_GUI_EXPORT oVIXTagListWidget : public QListWidget
     Q_MOC_INCLUDE(<QMouseEvent>)
 
 public:
+    /// A list without rows.
     explicit oVIXTagListWidget(QWidget *parent = nullptr);
     ~oVIXTagListWidget() override;
 
-    /// Shown opaque, invalid ones as black. Dark grey text on grey by default.
+    /// Background and text of the chips. Shown opaque, invalid ones as black. Dark grey text on grey by default.
     void setTagColors(QColor tag, QColor text);
+    /// Background of the chips.
     QColor getTagColor() const;
+    /// Text of the chips.
     QColor getTextColor() const;
 
     /// Whether `startDragSignal` comes (default no).

@@ -10,6 +10,7 @@ class VELMO_GUI_EXPORT oVIXTagListWidgetItem : public QLabel
     Q_OBJECT
 
 public:
+    /// A chip without a text.
     explicit oVIXTagListWidgetItem(QWidget *parent = nullptr);
     ~oVIXTagListWidgetItem() override;
 

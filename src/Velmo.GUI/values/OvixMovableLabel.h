@@ -24,6 +24,7 @@ class VELMO_GUI_EXPORT OvixMovableLabel : public OvixSvgLabel
     Q_OBJECT
 
 public:
+    /// A marker of the value 0, without a picture.
     explicit OvixMovableLabel(QWidget *parent = nullptr);
     ~OvixMovableLabel() override;
 
@@ -36,6 +37,7 @@ public:
     int getValue() const;
     /// The value last set, or that of the pixel once the marker has been moved by other means.
     int getKeptValue() const;
+    /// The highest value.
     int getMaximumValue() const;
 
     /// What is written on the marker; the value replaces it at the next change.
@@ -47,9 +49,11 @@ public:
 
     /// Whether the left button drags the marker (default yes).
     void setDraggable(bool draggable);
+    /// See `setDraggable`.
     bool isDraggable() const;
     /// Whether a double click opens the editor (default yes).
     void setEditable(bool editable);
+    /// See `setEditable`.
     bool isEditable() const;
 
     /// Whether the editor is open.
@@ -60,9 +64,13 @@ public:
     void updateEditLabel();
 
 signals:
+    /// A step of a drag, which may have left the marker on its pixel.
     void moved();
+    /// A press on the marker has ended: by its release, or because the marker has been hidden or disabled.
     void released();
+    /// The editor has opened.
     void editingStarted();
+    /// The editor has closed; the value is the typed one unless the edit was given up.
     void editingFinished();
 
 public slots:

@@ -8,6 +8,7 @@ class VELMO_GUI_EXPORT oVIXDoubleSliderWidget : public oVIXSliderWidget
     Q_OBJECT
 
 public:
+    /// As that of `oVIXSliderWidget`.
     explicit oVIXDoubleSliderWidget(QWidget *parent = nullptr);
     ~oVIXDoubleSliderWidget() override;
 };

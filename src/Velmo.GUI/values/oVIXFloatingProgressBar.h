@@ -17,15 +17,18 @@ class VELMO_GUI_EXPORT oVIXFloatingProgressBar : public QLabel
     Q_OBJECT
 
 public:
+    /// A strip of no width that follows @p parent.
     explicit oVIXFloatingProgressBar(QWidget *parent);
     ~oVIXFloatingProgressBar() override;
 
     /// Any number is taken; -10 and less show nothing.
     void setPercent(int percent);
+    /// The percentage last set, 0 at first, also while the strip still grows.
     int getPercent() const;
 
     /// The strip's size at that percentage.
     QSize sizeFromPercent(int percent);
+    /// Goes to the parent's bottom left corner.
     void moveToBottom();
     /// Stops growing where it is.
     void stopTween();

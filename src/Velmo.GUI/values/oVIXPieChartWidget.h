@@ -38,11 +38,13 @@ class VELMO_GUI_EXPORT oVIXPieChartWidget : public QWidget
     Q_OBJECT
 
 public:
+    /// An empty ring.
     explicit oVIXPieChartWidget(QWidget *parent = nullptr);
     ~oVIXPieChartWidget() override;
 
     /// No slice is selected afterwards. Null shows an empty ring; the model that is shown already changes nothing.
     void setModel(QAbstractItemModel *model);
+    /// The model that is shown; null without one, and once it is gone.
     QAbstractItemModel *model() const;
 
     /// With room for percentages beside narrow slices. The minimum size is the ring's.

@@ -13,7 +13,9 @@ class VELMO_GUI_EXPORT oVIXProgressBar : public QProgressBar
     Q_OBJECT
 
 public:
+    /// A bar from 0 to 100 at its start.
     oVIXProgressBar();
+    /// The same with a parent.
     explicit oVIXProgressBar(QWidget *parent);
     ~oVIXProgressBar() override;
 
@@ -25,6 +27,7 @@ public:
     int getSelectedValue() const;
     /// Whether clicks pick values (default yes).
     void setClickable(bool clickable);
+    /// See `setClickable`.
     bool isClickable() const;
     /// Forgets the picked value and takes clicks again.
     void initValues();

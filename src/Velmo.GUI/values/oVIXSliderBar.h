@@ -20,6 +20,7 @@ class VELMO_GUI_EXPORT oVIXSliderBar : public QLabel
     Q_OBJECT
 
 public:
+    /// A bar filled from edge to edge.
     explicit oVIXSliderBar(QWidget *parent = nullptr);
     ~oVIXSliderBar() override;
 
@@ -27,15 +28,18 @@ public:
     /// leaves that marker where it is. 0 on the left means no marker: the fill starts at the edge. 1 or more on the
     /// right means that the fill runs to the edge. Initially the whole bar is filled.
     void posMarkers(float left, float right);
-    /// Where the markers are now; -1 and 1 before they have been placed.
+    /// Where the markers are now, as fractions of the width; -1 and 1 before they have been placed.
     float leftMarker() const;
+    /// See `leftMarker`.
     float rightMarker() const;
 
-    /// Adds a border of no width to the sheet. On by default.
+    /// Adds a border of no width to the left of the sheet. On by default.
     void setBorderLeft(bool border);
+    /// The same on the right.
     void setBorderRight(bool border);
-    /// Rounds both corners of that side by 4 pixels. Off by default.
+    /// Rounds both left corners by 4 pixels. Off by default.
     void setRoundedLeft(bool rounded);
+    /// The same on the right.
     void setRoundedRight(bool rounded);
 
     /// The last ratio picked, 0 to 1; 0 before the first.
@@ -46,9 +50,11 @@ public:
     void pick(double ratio);
 
 signals:
+    /// A drag begins: the left button has been pressed.
     void valueStarted();
-    /// @p ratio is in 0 to 1.
+    /// The drag has picked this ratio, 0 to 1.
     void valueChanged(double ratio);
+    /// The drag has ended. The bar may be deleted from all three.
     void valueFinished();
 
 protected slots:

@@ -37,10 +37,10 @@ class VELMO_GUI_EXPORT oVIXSliderWidget : public QAbstractSpinBox
 public:
     /// Integer modes snap to whole numbers, the others do not; see `setSnapToInteger`.
     enum SLIDERMODE : int {
-        IntegerRange = 0,
-        SingleInteger = 1,
-        DoubleRange = 2,
-        SingleDouble = 3,
+        IntegerRange = 0, ///< two whole numbers, the lower one at the left of the bar
+        SingleInteger = 1, ///< a whole number
+        DoubleRange = 2, ///< two numbers, the lower one at the left of the bar
+        SingleDouble = 3, ///< a number
         Lateral = 4, ///< no bar: a number between a left and a right arrow
         LateralPlain = 5 ///< the same as `Lateral`
     };
@@ -73,13 +73,16 @@ public:
     void setSliderMaximum(double maximum);
     /// Upper limit of all boxes, the hard limit.
     void setSpinBoxMaximum(double maximum);
-    /// Step of the value or upper end; the lower end keeps its own. Integer boxes take it without its
-    /// fraction: they stand still when it is below 1.
+    /// Step of the value or upper end; the lower end keeps its own. Integer boxes take it without its fraction: they
+    /// stand still when it is below 1.
     void setSingleStep(double step);
+    /// Digits behind the point of the double boxes, which round their values to them: 2 at first. As in the toolkit, a
+    /// number out of range counts as the nearest.
     void setDecimals(int decimals);
 
     /// The text on the bar, or before the number where there is no bar.
     void setPrefix(const QString &prefix);
+    /// See `setPrefix`; empty at first.
     QString getPrefix() const;
     /// The text behind every number.
     void setSuffix(const QString &suffix);
@@ -94,8 +97,11 @@ public:
     double value() const;
     /// The lower end of a range; 0 in the other modes.
     double valueMin() const;
+    /// Lower limit of the value's box in this mode.
     double minimum() const;
+    /// Upper limit of that box, the hard limit.
     double spinBoxMaximum() const;
+    /// The value at the right end of the bar, the soft limit.
     double sliderMaximum() const;
 
     /// Whether one of the boxes has the keyboard.
@@ -106,14 +112,22 @@ public:
 
     /// Those of the row, unlike those of a spin box.
     QSize sizeHint() const override;
+    /// Those of the row, unlike those of a spin box.
     QSize minimumSizeHint() const override;
 
 signals:
+    /// A drag of the bar begins.
     void valueStarted();
+    /// The value or upper end of an integer mode has changed; in a lateral mode that without its fraction, before the
+    /// other signal of this name.
     void valueChanged(int value);
+    /// The value or upper end of any other mode has changed.
     void valueChanged(double value);
+    /// The lower end of an integer range has changed.
     void valueMinChanged(int value);
+    /// The lower end of a double range has changed.
     void valueMinChanged(double value);
+    /// An edit is complete: the last of the signals that it sends.
     void valueFinished();
 
 protected:

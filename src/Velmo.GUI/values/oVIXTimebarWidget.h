@@ -35,21 +35,26 @@ class VELMO_GUI_EXPORT oVIXTimebarWidget : public QFrame
     Q_OBJECT
 
 public:
+    /// A timebar from 0 to 100 with nothing cached.
     explicit oVIXTimebarWidget(QWidget *parent = nullptr);
     ~oVIXTimebarWidget() override;
 
     /// The last frame, 100 at first. Play value and cached value go to 0, the markers to 0, 0 and the last frame; the
     /// crop values stay. A negative one is ignored.
     void setMaxValue(int maximum);
+    /// The last frame.
     int getMax() const;
     /// The last frame that has been computed. Ignored beyond the maximum plus one. Shows with the next
     /// `setPlayWidgetFrame`.
     void updateCachedValue(int frame);
+    /// The last frame that has been computed, 0 at first.
     int getCached() const;
 
     /// Asks for a play frame. The play value takes it when it has been computed; the marker goes there anyway.
     void setPlayWidgetFrame(int frame);
+    /// The play value, 0 at first.
     int getTimeValue() const;
+    /// The same.
     int getCurrentPlayValue() const;
     /// The frame last picked by the user, 0 at first.
     int getSelectedValue() const;
@@ -58,10 +63,13 @@ public:
 
     /// Both ends in any order, from the first frame to 100 at first. They may be beyond the maximum.
     void setCropValues(int first, int second);
+    /// The crop's first frame.
     int getCropStartValue() const;
+    /// The crop's last frame.
     int getCropEndValue() const;
-    /// The same as shares of the maximum; 0 with a maximum of 0.
+    /// The crop's start as a share of the maximum; 0 with a maximum of 0.
     float getCropStartPos() const;
+    /// The same for the crop's end.
     float getCropEndPos() const;
     /// Takes a current marker outside the crop, and the play value with it, to the crop's start. From its end too:
     /// playing loops inside the crop.
@@ -69,35 +77,56 @@ public:
 
     /// The frame where playing begins, as a share of the maximum of now.
     void setPlayStart(float share);
+    /// The frame where playing begins, 0 at first.
     int getPlayStart() const;
 
+    /// Shows or hides both crop markers; the crop stays.
     void showCrops(bool show);
     /// Whether clicks on the bar pick frames (default yes), and whether the current marker shows. Yes also shows the
     /// crop markers.
     void setClickable(bool clickable);
+    /// See `setClickable`.
     bool isClickable() const;
 
     /// Fits the markers' ways to the width. Done at every resize.
     void updateMinMaxValues();
 
 signals:
+    /// The user has picked a frame: see `getSelectedValue` and `unblock`.
     void s_valuePicked();
+    /// The user has moved an end of the crop.
     void s_cropChanged();
 
 public slots:
+    /// Takes the frame that a click on the bar has picked, blocks the play value and emits `s_valuePicked`.
     void timeSelected();
+    /// The same with the frame of the current marker, which is being dragged.
     void timeDragChange();
+    /// The drag has ended: takes the current marker to the play value.
     void timeDragReleased();
+    /// The current marker is being edited: keeps the markers in sight.
     void timeLabelEditStarted();
+    /// The edit has ended: picks the frame that was typed, as a drag does, unless the edit was given up.
     void timeLabelEditFinished();
+    /// Starts the crop where its left marker has been dragged to, takes the right one along when that has been passed,
+    /// and emits `s_cropChanged`.
     void leftCropChanged();
+    /// The left crop marker is being edited: keeps the markers in sight.
     void leftCropEditStarted();
+    /// The edit has ended: starts the crop at the frame that was typed, as a drag does, unless the edit was given up.
     void leftCropEditFinished();
+    /// Ends the crop where its right marker has been dragged to, takes the left one along when that has been passed,
+    /// and emits `s_cropChanged`.
     void rightCropChanged();
+    /// The right crop marker is being edited: keeps the markers in sight.
     void rightCropEditStarted();
+    /// The edit has ended: ends the crop at the frame that was typed, as a drag does, unless the edit was given up.
     void rightCropEditFinished();
+    /// The drag of a crop marker has ended: takes both to the ends of the crop.
     void cropDragReleased();
+    /// Fades the markers out, unless the user drags or edits one.
     void hideLabels();
+    /// Fades the markers in.
     void showLabels();
 
 protected:

@@ -21,11 +21,14 @@ class VELMO_GUI_EXPORT oVIXToggle : public QWidget
     Q_OBJECT
 
 public:
-    /// Logical pixels.
+    /// Side of a state's button, in logical pixels.
     static constexpr int StateWidth = 32;
+    /// Room between two states, in logical pixels.
     static constexpr int StateSpacing = 0;
+    /// How long the highlight slides, in milliseconds.
     static constexpr int StateChangeDurationMsecs = 100;
 
+    /// A toggle without states.
     explicit oVIXToggle(QWidget *parent = nullptr);
     ~oVIXToggle() override;
 
@@ -40,6 +43,7 @@ public:
 
     /// Whether the user can choose the state.
     void setStateEnabled(const QString &name, bool enabled);
+    /// What the state's button tells the pointer; empty for nothing.
     void setStateToolTip(const QString &name, const QString &toolTip);
     /// A state that is hidden stays current if it was.
     void setStateVisible(const QString &name, bool visible);
