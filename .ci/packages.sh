@@ -11,8 +11,8 @@ build_packages=(
 # The Windows services are cross-compiled and run under Wine; gestures on real windows want a window manager.
 test_packages=(g++-mingw-w64-x86-64-posix wine64 xvfb xauth openbox xdotool)
 bench_packages=(python3)
-# Fuzzing is clang's; what its programs are linked with comes separately.
-check_packages=(clang-format clang-tidy clang libclang-rt-dev)
+# Fuzzing is clang's; what its programs are linked with comes separately. The documentation is doxygen's.
+check_packages=(clang-format clang-tidy clang libclang-rt-dev doxygen)
 
 # need_packages <package>...: installs those that are missing. Where all are there, nothing is asked of the network.
 need_packages() {
