@@ -17,11 +17,11 @@ inline constexpr QLatin1String disabledText("rgb(81,81,81)");
 inline constexpr QLatin1String secondaryText("rgb(156,156,156)");
 /// Primary text.
 inline constexpr QLatin1String text("rgb(219,219,219)");
-/// Text of rows that are selected or chosen.
+/// Text of a row under the pointer.
 inline constexpr QLatin1String white("rgb(255,255,255)");
 /// What lies under the pointer, lightened.
 inline constexpr QLatin1String hover("rgba(255,255,255,38)");
-/// The accent: what is selected, played or focused.
+/// What is selected.
 inline constexpr QLatin1String accent("rgb(116, 211, 252)");
 /// The accent as a background of what is selected.
 inline constexpr QLatin1String accentTranslucent("rgba(116, 211, 252,48)");
