@@ -79,7 +79,7 @@ public slots:
     void detachTriggered();
     /// Emits `s_search`.
     void fnSearch(QString text);
-    /// One step of an edge grip. Nothing while the panel is maximised.
+    /// One step of an edge grip, as `oVIXMainWindow::resizeByGrip` takes it. Nothing while the panel is maximised.
     void resizeByGrip(QPoint p, bool invert);
     /// Gives the panel the look of its state: while it floats, grips and an edge of two pixels in the background's
     /// colour.

@@ -19,7 +19,7 @@ public:
     /// The keys that can be asked for. Any other number is a key that is never down.
     enum Key : int {
         Escape = 0, ///< the Escape key
-        Return = 1 ///< the Return key of the main block
+        Return = 1 ///< Return and Enter
     };
 
     /// The table; always the same one.
@@ -30,10 +30,12 @@ public:
     /// The window that the user works in, of whatever program; null when none is known.
     std::function<Handle()> foregroundWindow;
     /// The rectangle, in the system's pixels, of the monitor nearest to the window. Output pointers may be null; they
-    /// are left alone on failure, which returns false.
+    /// are left alone on failure, which returns false. On systems other than Windows it is that of the toolkit's
+    /// screen, in logical pixels, and of its primary screen for the window of another program.
     std::function<bool(Handle window, int *x, int *y, int *width, int *height)> monitorRectOfWindow;
     /// Gives the system's own title bar of a window the dark look. The caller knows the system's version: before
-    /// Windows 11 nothing is done. Both that and a failed call are told on the standard error stream.
+    /// Windows 11 nothing is done, and on systems other than Windows it fails. Both are told on the standard error
+    /// stream.
     std::function<void(Handle window, bool windows11OrLater)> setDarkTitleBar;
     /// Whether the desktop's settings let widgets move. Always on systems where only the toolkit's style may know.
     std::function<bool()> areAnimationsOn;

@@ -81,7 +81,8 @@ public slots:
     void showWindowBlock();
     /// Takes the dimming away; nothing while there is none. Calls `hideWindowBlockEvent` afterwards.
     void hideWindowBlock();
-    /// One step of an edge grip. Nothing while the window is maximised.
+    /// One step of an edge grip: moves the right and bottom edges, with @p invert the left and top ones unless that
+    /// would take the size to its minimum. Nothing while the window is maximised.
     void resizeByGrip(QPoint p, bool invert);
     /// Emits `closed` and lets the window close: a subclass that may refuse asks before it calls this.
     void closeEvent(QCloseEvent *event) override;

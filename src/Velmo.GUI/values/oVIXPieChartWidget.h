@@ -27,9 +27,9 @@ struct Arc;
 ///
 /// The shares live in the model, which is not owned: row r of column 0 is slice r, `Qt::EditRole` its share in percent
 /// (float, read and written), `Qt::UserRole + 1` whether it is locked (bool). Its name is `Qt::AccessibleTextRole`,
-/// else the text of the vertical header, else its number. The model may change at any time; what it refuses to store
-/// stays as it is. A share that is not a number counts as 0. Shares that make less than a hundred percent leave a gap
-/// in the ring; those that make more, as the floor may, are shrunk to it.
+/// else the text of the vertical header, else "Slice" and its number. The model may change at any time; what it refuses
+/// to store stays as it is. A share that is not a number counts as 0. Shares that make less than a hundred percent
+/// leave a gap in the ring; those that make more, as the floor may, are shrunk to it.
 ///
 /// The widget may be deleted from its signals and from those of the model; while the user edits the box, with
 /// `deleteLater`.
