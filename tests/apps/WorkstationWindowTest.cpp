@@ -218,6 +218,7 @@ private slots:
         QCOMPARE(page->bake().computedFrames(), 0);
         QCOMPARE(page->view()->scene().people.size(), 5);
         crowd->findChild<oVIXButton *>()->click();
+        answerNextBox([](VelmoMessageWidget *box) { box->fnOther(); });
         m_window->closeScene();
         QVERIFY(!page->bake().isRunning());
     }

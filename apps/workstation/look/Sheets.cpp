@@ -21,6 +21,7 @@ QString Sheets::window()
             "#statusLine { background-color:rgb(28,28,28); border-top:1px solid rgb(59,59,59); }"
             "#statusText { font-family:Inter; font-size:11px; color:rgb(156,156,156); }"
             "#statusText[problem=\"true\"] { color:rgb(249,199,26); }"
+            "#unsaved { font-family:Inter; font-size:11px; color:rgb(116,211,252); }"
             "#standingProblem { font-family:Inter; font-size:11px; color:rgb(249,199,26); }"_s;
 }
 

@@ -1,12 +1,12 @@
 #include "panels/CrowdEditor.h"
 
-#include "panels/LibraryEntry.h"
 #include "scenes/Scene.h"
 
 #include <oVIXButton.h>
 #include <oVIXPieChartWidget.h>
 #include <oVIXSliderWidget.h>
 
+#include <QSignalBlocker>
 #include <QStandardItemModel>
 #include <QVBoxLayout>
 
@@ -62,18 +62,22 @@ CrowdEditor::CrowdEditor(QWidget *parent)
 
 void CrowdEditor::setScene(const Scene &scene)
 {
+    const QSignalBlocker noEdit(this);
+    const CrowdSettings settings = CrowdSettings::of(scene);
     m_count->setMaximum(std::max(mostPeople, int(scene.people.size())));
-    m_count->setValue(double(scene.people.size()));
+    m_count->setValue(settings.count);
+    m_speed->setValueMin(settings.slowest);
+    m_speed->setValue(settings.fastest);
+    m_spacing->setValue(settings.spacing);
+    m_turnRate->setValue(settings.turnRate);
+    m_seed->setValue(settings.seed);
     m_shares->clear();
-    const QList<LibraryEntry> kinds = LibraryEntry::of(scene);
-    for (const LibraryEntry &kind : kinds) {
-        if (kind.isVehicle)
-            continue;
+    for (const CrowdSettings::Share &share : settings.shares) {
         auto *row = new QStandardItem;
-        row->setData(kind.type.isEmpty() ? tr("Without type") : kind.type, Qt::AccessibleTextRole);
-        row->setData(float(100.0 * kind.count / double(scene.people.size())), Qt::EditRole);
+        row->setData(share.type.isEmpty() ? tr("Without type") : share.type, Qt::AccessibleTextRole);
+        row->setData(float(share.percent), Qt::EditRole);
         row->setData(false, lockedRole);
-        row->setData(kind.type, typeRole);
+        row->setData(share.type, typeRole);
         m_shares->appendRow(row);
     }
     m_pie->setVisible(m_shares->rowCount() > 0);

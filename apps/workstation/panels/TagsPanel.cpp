@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr QSize smallestSize(280, 200);
+constexpr QSize smallestContent(280, 200);
 constexpr auto everyone = "everyone"_L1;
 constexpr auto tagPrefix = "tag:"_L1; // a tag may be called like the choice of everyone
 
@@ -54,7 +54,7 @@ TagsPanel::TagsPanel(QMainWindow *window)
     content->setObjectName(u"panel"_s);
     content->setAttribute(Qt::WA_StyledBackground);
     content->setStyleSheet(Sheets::toolPanel());
-    content->setMinimumSize(smallestSize);
+    content->setMinimumSize(smallestContent);
     auto *layout = new QVBoxLayout(content);
     layout->setContentsMargins(12, 12, 12, 12);
     layout->setSpacing(8);
@@ -95,6 +95,14 @@ void TagsPanel::setScene(const Scene &scene)
     m_filter->setComboMeta(tagPrefix + before);
     if (filter() != before)
         emit filterChanged(filter());
+}
+
+void TagsPanel::finishEdits()
+{
+    if (!m_takeOver.isActive())
+        return;
+    m_takeOver.stop();
+    takeOver();
 }
 
 QString TagsPanel::filter() const

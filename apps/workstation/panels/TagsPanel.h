@@ -21,6 +21,8 @@ public:
 
     /// Shows the scene's tags. The filter stays as long as there is its tag.
     void setScene(const Scene &scene);
+    /// Hands over at once what has been edited.
+    void finishEdits();
     /// The tag that is filtered by; empty for none.
     QString filter() const;
 

@@ -1,6 +1,7 @@
 #include "scenes/ProjectFolder.h"
 
 #include "VelmoVersion.h"
+#include "scenes/Scene.h"
 #include "scenes/SceneNames.h"
 
 #include <QDir>
@@ -17,8 +18,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto newSceneTime = "00:00:00 | 25"_L1;
-constexpr auto newSceneBakeStatus = "Not baked"_L1;
 constexpr qint64 blockSize = 1 << 20;
 
 bool comesBefore(const QString &left, const QString &right)
@@ -58,8 +57,8 @@ void writeEmptyScene(QIODevice &file)
     writer.writeStartElement(u"VelmoSerializer"_s);
     writer.writeStartElement(u"scenemetadata"_s);
     writer.writeAttribute(u"version"_s, VelmoVersion::current().toString());
-    writer.writeAttribute(u"time-fps"_s, newSceneTime);
-    writer.writeAttribute(u"bakestatus"_s, newSceneBakeStatus);
+    writer.writeAttribute(u"time-fps"_s, Scene().timeText());
+    writer.writeAttribute(u"bakestatus"_s, Scene::notBakedStatus());
     writer.writeAttribute(u"actorcount"_s, u"0"_s);
     writer.writeAttribute(u"vehiclescount"_s, u"0"_s);
     writer.writeAttribute(u"background-name"_s, u"None"_s);

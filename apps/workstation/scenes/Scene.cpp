@@ -2,6 +2,10 @@
 
 #include <QRectF>
 
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
 QColor Scene::colourOf(const SceneMover &mover) const
 {
     for (const int id : mover.tags) {
@@ -27,4 +31,28 @@ QRectF Scene::bounds() const
     }
     constexpr double margin = 5.0;
     return points.boundingRect().adjusted(-margin, -margin, margin, margin);
+}
+
+bool Scene::hasCrop() const
+{
+    return frames > 0 && cropFirst >= 0 && cropLast >= cropFirst;
+}
+
+int Scene::crowdSize() const
+{
+    return crowd ? crowd->count : int(people.size());
+}
+
+QString Scene::timeText() const
+{
+    const auto seconds = qint64(std::floor(frames / framesPerSecond + 1e-6)); // whole ones stay whole
+    const auto twoDigits = [](qint64 number) { return u"%1"_s.arg(number, 2, 10, QChar(u'0')); };
+    return u"%1:%2:%3 | %4"_s.arg(twoDigits(seconds / 3600), twoDigits(seconds / 60 % 60), twoDigits(seconds % 60),
+                                  QString::number(framesPerSecond));
+}
+
+void Scene::setBaked(int count)
+{
+    bakedFrames = count;
+    bakeStatus = count <= 0 ? notBakedStatus() : count < frames ? u"Partial"_s : u"Baked"_s;
 }

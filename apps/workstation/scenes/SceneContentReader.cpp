@@ -1,15 +1,39 @@
 #include "scenes/SceneContentReader.h"
 
+#include "scenes/SceneAttributes.h"
 #include "scenes/SceneTags.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Reads a file and keeps what has been read.
+class KeepingDevice : public QIODevice
+{
+public:
+    KeepingDevice(QFile *file, QByteArray *kept) : m_file(file), m_kept(kept) { open(ReadOnly | Unbuffered); }
+    bool isSequential() const override { return true; }
+
+protected:
+    qint64 readData(char *data, qint64 size) override
+    {
+        const qint64 count = m_file->read(data, size);
+        m_kept->append(data, std::max<qint64>(0, count));
+        return count;
+    }
+    qint64 writeData(const char * /*data*/, qint64 /*size*/) override { return -1; }
+
+private:
+    QFile *m_file;
+    QByteArray *m_kept;
+};
+
+} // namespace
 
 bool SceneContentReader::read(const QString &path, Scene *scene)
 {
@@ -27,7 +51,8 @@ bool SceneContentReader::read(const QString &path, Scene *scene)
         return refuse(tr("\"%1\" is not a file.").arg(scene->name));
     if (!file.open(QIODevice::ReadOnly))
         return refuse(tr("\"%1\" cannot be opened: %2").arg(scene->name, file.errorString()));
-    m_xml.setDevice(&file);
+    KeepingDevice device(&file, &scene->document);
+    m_xml.setDevice(&device);
     m_size = file.size();
     if (!m_xml.readNextStartElement() || m_xml.name() != "VelmoSerializer"_L1)
         return refuse(tr("\"%1\" is not a scene.").arg(scene->name));
@@ -39,11 +64,13 @@ bool SceneContentReader::read(const QString &path, Scene *scene)
     }
     if (m_cancelled)
         return refuse(cancelledText(scene->name));
+    if (file.error() != QFileDevice::NoError)
+        return refuse(tr("\"%1\" cannot be read: %2").arg(scene->name, file.errorString()));
     if (m_xml.hasError()) {
         return refuse(tr("\"%1\" is damaged in line %2: %3")
                           .arg(scene->name, QString::number(m_xml.lineNumber()), m_xml.errorString()));
     }
-    SceneTags::setAsideUnused(scene);
+    SceneTags::setAsideUnused(scene, m_settledTags);
     return true;
 }
 
@@ -66,21 +93,30 @@ void SceneContentReader::readElement()
     const QStringView name = m_xml.name();
     if (name == "scenemetadata"_L1) {
         m_scene->version = text("version"_L1);
-        m_scene->bakeStatus = text("bakestatus"_L1);
+        if (const QString status = text("bakestatus"_L1); !status.isEmpty())
+            m_scene->bakeStatus = status;
     } else if (name == "background"_L1) {
         step(tr("Reading the ground"));
         m_scene->groundName = text("name"_L1);
         m_scene->ground = {number("width"_L1), number("depth"_L1)};
     } else if (name == "timeline"_L1) {
-        m_scene->frames = std::max(0, int(number("frames"_L1)));
-        m_scene->framesPerSecond = std::clamp(int(number("fps"_L1, 25)), 1, 240);
+        m_scene->frames = std::max(0, SceneAttributes::wholeNumber(m_xml.attributes(), "frames"_L1));
+        m_scene->framesPerSecond = SceneAttributes::framesPerSecond(m_xml.attributes());
     } else if (name == "crop"_L1) {
-        m_scene->cropFirst = int(number("first"_L1));
-        m_scene->cropLast = int(number("last"_L1));
+        m_scene->cropFirst = SceneAttributes::wholeNumber(m_xml.attributes(), "first"_L1);
+        m_scene->cropLast = SceneAttributes::wholeNumber(m_xml.attributes(), "last"_L1, -1);
+    } else if (name == "bake"_L1) {
+        m_scene->bakedFrames = SceneAttributes::bakedFrames(m_xml.attributes());
+        if (m_scene->bakeStatus.isEmpty())
+            m_scene->bakeStatus = text("status"_L1);
+    } else if (name == "crowd"_L1) {
+        readCrowd();
     } else if (name == "wall"_L1) {
         readWall();
     } else if (name == "tag"_L1) {
-        m_scene->tags.append({text("id"_L1).toInt(), text("name"_L1), QColor(text("color"_L1))});
+        m_scene->tags.append(SceneAttributes::tag(m_xml.attributes()));
+        if (SceneAttributes::tellsStanding(m_xml.attributes()))
+            m_settledTags.insert(m_scene->tags.last().name);
     } else if (name == "actors"_L1) {
         step(tr("Reading people"));
     } else if (name == "actor"_L1) {
@@ -103,15 +139,29 @@ void SceneContentReader::readWall()
     m_scene->walls.append(wall);
 }
 
+void SceneContentReader::readCrowd()
+{
+    CrowdSettings crowd;
+    crowd.count = std::max(0, SceneAttributes::wholeNumber(m_xml.attributes(), "count"_L1));
+    crowd.slowest = number("slowest"_L1, crowd.slowest);
+    crowd.fastest = number("fastest"_L1, crowd.fastest);
+    crowd.spacing = number("spacing"_L1, crowd.spacing);
+    crowd.turnRate = number("turn-rate"_L1, crowd.turnRate);
+    crowd.seed = SceneAttributes::wholeNumber(m_xml.attributes(), "seed"_L1, crowd.seed);
+    while (!m_cancelled && m_xml.readNextStartElement()) {
+        if (m_xml.name() == "share"_L1)
+            crowd.shares.append({text("type"_L1), number("percent"_L1)});
+        skipElement();
+    }
+    m_scene->crowd = crowd;
+}
+
 void SceneContentReader::readMover(QList<SceneMover> *movers)
 {
     SceneMover mover;
     mover.name = text("name"_L1);
     mover.type = text("type"_L1);
-    // Older releases separate them by commas.
-    const QStringList tags = text("tags"_L1).replace(u',', u' ').split(u' ', Qt::SkipEmptyParts);
-    for (const QString &tag : tags)
-        mover.tags << tag.toInt();
+    mover.tags = SceneAttributes::tagIds(m_xml.attributes());
     while (!m_cancelled && m_xml.readNextStartElement()) {
         const QStringView name = m_xml.name();
         if (name == "position"_L1) {
@@ -144,7 +194,7 @@ void SceneContentReader::skipElement()
 void SceneContentReader::report()
 {
     m_cancelled = m_cancelled || (isCancelled && isCancelled());
-    const int percent = m_size > 0 ? int(m_xml.device()->pos() * 100 / m_size) : 0;
+    const int percent = m_size > 0 ? int(m_scene->document.size() * 100 / m_size) : 0;
     if (percent == m_percent)
         return;
     m_percent = percent;
@@ -154,15 +204,12 @@ void SceneContentReader::report()
 
 double SceneContentReader::number(QLatin1String attribute, double otherwise) const
 {
-    constexpr double largest = 1e6;
-    bool isNumber = false;
-    const double value = m_xml.attributes().value(attribute).toDouble(&isNumber);
-    return isNumber && std::abs(value) <= largest ? value : otherwise;
+    return SceneAttributes::number(m_xml.attributes(), attribute, otherwise);
 }
 
 QString SceneContentReader::text(QLatin1String attribute) const
 {
-    return m_xml.attributes().value(attribute).toString();
+    return SceneAttributes::text(m_xml.attributes(), attribute);
 }
 
 QPointF SceneContentReader::point() const

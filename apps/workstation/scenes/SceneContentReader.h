@@ -3,6 +3,7 @@
 #include "scenes/Scene.h"
 
 #include <QCoreApplication>
+#include <QSet>
 #include <QXmlStreamReader>
 
 #include <functional>
@@ -27,16 +28,18 @@ public:
 private:
     void readElement();
     void readWall();
+    void readCrowd();
     void readMover(QList<SceneMover> *movers);
     void skipElement();
     void report();
-    /// A finite number of at most 1,000,000 either way, else @p otherwise.
     double number(QLatin1String attribute, double otherwise = 0.0) const;
     QString text(QLatin1String attribute) const;
     QPointF point() const;
 
     QXmlStreamReader m_xml;
     Scene *m_scene = nullptr;
+    /// Those that the file tells to be assigned or not.
+    QSet<QString> m_settledTags;
     QString m_problem;
     qint64 m_size = 0;
     int m_percent = -1;

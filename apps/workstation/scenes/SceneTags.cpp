@@ -2,8 +2,6 @@
 
 #include "scenes/Scene.h"
 
-#include <QSet>
-
 #include <algorithm>
 #include <array>
 
@@ -107,11 +105,13 @@ QStringList SceneTags::available(const Scene &scene)
     return namesOf(scene, false);
 }
 
-void SceneTags::setAsideUnused(Scene *scene)
+void SceneTags::setAsideUnused(Scene *scene, const QSet<QString> &settled)
 {
     const QSet<QString> used = usedNames(*scene);
-    for (SceneTag &tag : scene->tags)
-        tag.isAssigned = used.contains(tag.name);
+    for (SceneTag &tag : scene->tags) {
+        if (!settled.contains(tag.name))
+            tag.isAssigned = used.contains(tag.name);
+    }
 }
 
 void SceneTags::arrange(Scene *scene, const QStringList &assigned, const QStringList &available)

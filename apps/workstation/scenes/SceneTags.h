@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSet>
 #include <QStringList>
 
 struct Scene;
@@ -12,8 +13,8 @@ namespace SceneTags {
 QStringList assigned(const Scene &scene);
 QStringList available(const Scene &scene);
 
-/// Sets those tags aside that nobody has.
-void setAsideUnused(Scene *scene);
+/// Sets those tags aside that nobody has, and no others. The ones called as in @p settled stay where they are.
+void setAsideUnused(Scene *scene, const QSet<QString> &settled = {});
 
 /// Makes the scene have exactly these tags. New names become new tags, unless they differ from a present one in case
 /// only; tags in neither list are taken from everybody for good. A name in both lists is assigned. An assigned tag that

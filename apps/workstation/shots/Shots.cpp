@@ -204,6 +204,11 @@ bool drawWindow(PictureFolder &pictures, const QString &projectsFolder)
     };
     saveBox(u"replace bake"_s);
     page->toggleBaking();
+    QTimer::singleShot(0ms, &window, [&] {
+        good = pictures.save(pictureWithDialog(&window), u"save scene"_s) && good;
+        if (auto *box = window.findChild<VelmoMessageWidget *>())
+            box->fnOther(); // nobody's files are touched
+    });
     window.closeScene();
     saveBox(u"delete scene"_s);
     screen->deleteSelectedScene();

@@ -16,10 +16,10 @@ Bake::~Bake()
         m_thread->wait();
 }
 
-void Bake::start(const Scene &scene, const CrowdSettings &settings, int frames, int framesPerSecond)
+void Bake::start(const Scene &scene, const CrowdSettings &settings, int frames, double framesPerSecond)
 {
     clear();
-    m_framesPerSecond = std::max(1, framesPerSecond);
+    m_framesPerSecond = std::max(1.0, framesPerSecond);
     const auto crowd = std::make_shared<Crowd>(scene, settings);
     m_people = crowd->people();
     m_frames.resize(std::max(0, frames));
@@ -74,7 +74,7 @@ int Bake::computedFrames() const
     return m_computed;
 }
 
-int Bake::framesPerSecond() const
+double Bake::framesPerSecond() const
 {
     return m_framesPerSecond;
 }

@@ -21,7 +21,7 @@ public:
     ~Bake() override;
 
     /// Forgets all frames and begins with the first one. What runs is stopped before.
-    void start(const Scene &scene, const CrowdSettings &settings, int frames, int framesPerSecond);
+    void start(const Scene &scene, const CrowdSettings &settings, int frames, double framesPerSecond);
     /// Keeps the frames that there are. `stopped` follows when something ran.
     void stop();
     /// Stops, and forgets all frames.
@@ -30,7 +30,7 @@ public:
     bool isRunning() const;
     int frameCount() const;
     int computedFrames() const;
-    int framesPerSecond() const;
+    double framesPerSecond() const;
     /// People of the first frame; their order is that of all frames.
     const QList<SceneMover> &people() const;
     /// Where they were in a frame that has been computed; empty for others.
@@ -47,6 +47,6 @@ private:
     QList<QList<QPointF>> m_frames; // the thread's from m_computed on
     std::atomic_int m_computed = 0;
     std::atomic_bool m_cancelled = false;
-    int m_framesPerSecond = 25;
+    double m_framesPerSecond = 25.0;
     std::unique_ptr<QThread> m_thread;
 };

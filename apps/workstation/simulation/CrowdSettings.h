@@ -3,6 +3,8 @@
 #include <QList>
 #include <QString>
 
+struct Scene;
+
 /// What a crowd is made of. Lengths are metres, speeds metres a second.
 struct CrowdSettings
 {
@@ -26,4 +28,8 @@ struct CrowdSettings
     QList<Share> shares;
 
     bool operator==(const CrowdSettings &) const = default;
+
+    /// The crowd that a scene tells of, else one of its people. The shares are those of the types that its people have,
+    /// by name, and make a hundred percent.
+    static CrowdSettings of(const Scene &scene);
 };

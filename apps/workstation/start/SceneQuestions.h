@@ -20,5 +20,12 @@ public:
     static bool confirmRemoving(const QString &problem, QWidget *parent);
     /// The new name, which may be empty; nothing when the scene keeps its name.
     static std::optional<QString> askNewName(const QString &name, QWidget *parent);
+
+    enum class Leaving { Save, Discard, Stay };
+    /// What is to become of a scene that is about to be left and has not been saved. @p note, if any, comes first.
+    static Leaving askToSave(const QString &name, const QString &note, QWidget *parent);
+    /// Whether to save over what somebody else has made of the scene's file.
+    static bool confirmReplacing(const QString &name, QWidget *parent);
+
     static void report(const QString &title, const QString &problem, QWidget *parent);
 };

@@ -113,6 +113,15 @@ bool StartScreen::isReading() const
     return m_reader->isReading() || m_scenesPanel->isDrawing();
 }
 
+void StartScreen::refresh()
+{
+    if (m_project.path().isEmpty())
+        return;
+    m_sceneWhenRead = selectedScene().name;
+    showProjectChanged();
+    readScenes();
+}
+
 QSize StartScreen::minimumSizeHint() const
 {
     return smallestSize;

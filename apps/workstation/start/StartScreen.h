@@ -28,6 +28,8 @@ public:
     /// Shows the scenes of the project in this row of the list.
     void selectProject(int row);
     bool isReading() const;
+    /// Reads the selected project's scenes anew; the same scene is selected again.
+    void refresh();
 
     QSize minimumSizeHint() const override;
 

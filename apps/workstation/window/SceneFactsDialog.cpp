@@ -41,8 +41,9 @@ SceneFactsDialog::SceneFactsDialog(const Scene &scene, QWidget *parent)
     addFact(tr("Bake"), scene.bakeStatus);
     addFact(tr("Ground"), scene.groundName);
     addFact(tr("Size"), tr("%1 x %2 m").arg(scene.ground.width()).arg(scene.ground.height()));
+    addFact(tr("Length"), scene.timeText());
     addFact(tr("Walls"), QString::number(scene.walls.size()));
-    addFact(tr("People"), QString::number(scene.people.size()));
+    addFact(tr("People"), QString::number(scene.crowdSize()));
     addFact(tr("Vehicles"), QString::number(scene.vehicles.size()));
 
     auto *closing = new QPushButton(tr("Close"), this);

@@ -13,6 +13,7 @@
 #include <oVIXToggle.h>
 
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPointer>
 
 #include <algorithm>
@@ -25,23 +26,31 @@ namespace {
 
 constexpr int defaultSeconds = 20;
 constexpr qint64 mostPositions = 20'000'000; // of all people in all frames, to stay within 320 MB
+constexpr qint64 mostFrames = 1'000'000;
 constexpr int trailFrames = 50;
 constexpr int trailStep = 2;
 constexpr auto bakeShown = 40ms;
 constexpr int secondsToThink = 3;
 constexpr QSize playSize(32, 32);
 
-int framesFor(const Scene &scene, int people)
+int framesFor(const Scene &scene)
 {
-    const int wanted = scene.frames > 0 ? scene.frames : defaultSeconds * scene.framesPerSecond;
-    return int(std::min<qint64>(wanted, mostPositions / std::max(1, people)));
+    return int(std::min<qint64>({scene.frames, mostFrames, mostPositions / std::max(1, scene.crowdSize())}));
+}
+
+/// The first and the last frame that play, of those that there are.
+std::pair<int, int> cropOf(const Scene &scene, int lastFrame)
+{
+    if (!scene.hasCrop())
+        return {0, lastFrame};
+    return {std::min(scene.cropFirst, lastFrame), std::min(scene.cropLast, lastFrame)};
 }
 
 } // namespace
 
 ScenePage::ScenePage(QWidget *parent)
     : QWidget(parent), m_view(new SceneView(this)), m_progress(new oVIXFloatingProgressBar(m_view)),
-      m_facts(new StatusLine(this))
+      m_facts(new StatusLine(this)), m_unsaved(new QLabel(tr("Not saved"), this))
 {
     setObjectName(u"window"_s);
     setStyleSheet(Sheets::window());
@@ -52,34 +61,51 @@ ScenePage::ScenePage(QWidget *parent)
     layout->addWidget(createPlayer());
     layout->addWidget(m_facts);
     m_progress->hide();
+    m_unsaved->setObjectName(u"unsaved"_s);
+    m_facts->layout()->addWidget(m_unsaved);
+    m_unsaved->hide();
 
     connect(&m_playTimer, &QTimer::timeout, this, &ScenePage::playNext);
     m_bakeTimer.setInterval(bakeShown);
     connect(&m_bakeTimer, &QTimer::timeout, this, &ScenePage::showBaked);
     connect(&m_bake, &Bake::stopped, this, &ScenePage::finishBaking);
     connect(m_timebar, &oVIXTimebarWidget::s_valuePicked, this, &ScenePage::takeOverPickedFrame);
-    connect(m_timebar, &oVIXTimebarWidget::s_cropChanged, this, [this] { m_timebar->constrainPlayTimeToCropValues(); });
+    connect(m_timebar, &oVIXTimebarWidget::s_cropChanged, this, &ScenePage::takeOverCrop);
 }
 
 void ScenePage::setScene(const Scene &scene, const CrowdSettings &settings)
 {
-    setPlaying(false);
+    m_bake.clear(); // what ends here was the scene before
     m_scene = scene;
-    m_view->setScene(scene);
-    m_settings = settings;
+    m_scene.crowd = settings;
+    if (m_scene.frames == 0)
+        m_scene.frames = int(defaultSeconds * m_scene.framesPerSecond);
+    m_saved = m_scene;
+    m_view->setScene(m_scene);
     showCrowd();
-    const int last = std::max(0, framesFor(scene, settings.count) - 1);
-    const bool hasCrop = scene.cropLast > scene.cropFirst;
-    m_timebar->setCropValues(hasCrop ? std::clamp(scene.cropFirst, 0, last) : 0,
-                             hasCrop ? std::clamp(scene.cropLast, 0, last) : last);
+    updateModified();
     m_facts->showNote(tr("%1: %2 people, %3 vehicles, %4")
-                          .arg(scene.name, QString::number(scene.people.size()), QString::number(scene.vehicles.size()),
+                          .arg(scene.name, QString::number(m_scene.crowdSize()), QString::number(scene.vehicles.size()),
                                scene.groundName));
 }
 
 const Scene &ScenePage::scene() const
 {
     return m_scene;
+}
+
+bool ScenePage::isModified() const
+{
+    return m_isModified;
+}
+
+void ScenePage::setSaved(const Scene &saved)
+{
+    m_saved = saved;
+    m_scene.document = saved.document;
+    m_scene.version = saved.version;
+    m_facts->showNote(tr("\"%1\" has been saved.").arg(saved.name));
+    updateModified();
 }
 
 SceneView *ScenePage::view() const
@@ -99,35 +125,60 @@ const Bake &ScenePage::bake() const
 
 void ScenePage::setCrowd(const CrowdSettings &settings)
 {
-    if (settings == m_settings)
+    if (settings == m_scene.crowd)
         return;
-    m_settings = settings;
+    m_scene.crowd = settings;
     showCrowd();
+    m_scene.setBaked(0);
+    updateModified();
 }
 
 void ScenePage::setTags(const QStringList &assigned, const QStringList &available)
 {
     SceneTags::arrange(&m_scene, assigned, available);
     m_view->setTags(m_scene);
+    updateModified();
 }
 
 void ScenePage::showCrowd()
 {
     setPlaying(false);
     m_bake.clear();
-    setFrames(framesFor(m_scene, m_settings.count));
+    setFrames(framesFor(m_scene));
     m_timebar->setPlayWidgetFrame(0);
-    m_view->setPeople(Crowd(m_scene, m_settings).people());
+    m_view->setPeople(Crowd(m_scene, *m_scene.crowd).people());
     m_playButton->setEnabled(false);
 }
 
 void ScenePage::setFrames(int frames)
 {
     const int last = std::max(0, frames - 1);
-    const int first = m_timebar->getCropStartValue();
-    const int end = m_timebar->getCropEndValue();
+    const auto [cropFirst, cropLast] = cropOf(m_scene, last);
     m_timebar->setMaxValue(last);
-    m_timebar->setCropValues(std::min(first, last), std::min(end, last));
+    m_timebar->setCropValues(cropFirst, cropLast);
+}
+
+void ScenePage::takeOverCrop()
+{
+    m_timebar->constrainPlayTimeToCropValues();
+    // An end that nobody has moved stays, also when it is beyond the frames that there are room for.
+    const auto [first, last] = cropOf(m_scene, m_timebar->getMax());
+    const bool isNew = !m_scene.hasCrop();
+    if (isNew || m_timebar->getCropStartValue() != first)
+        m_scene.cropFirst = m_timebar->getCropStartValue();
+    if (isNew || m_timebar->getCropEndValue() != last)
+        m_scene.cropLast = m_timebar->getCropEndValue();
+    updateModified();
+}
+
+void ScenePage::updateModified()
+{
+    const bool isModified = m_scene != m_saved;
+    if (isModified == m_isModified)
+        return;
+    m_isModified = isModified;
+    m_unsaved->setVisible(isModified);
+    emit modifiedChanged(isModified);
 }
 
 void ScenePage::toggleBaking()
@@ -139,7 +190,9 @@ void ScenePage::toggleBaking()
     if (m_bake.computedFrames() > 0 && !askToReplaceFrames())
         return;
     setPlaying(false);
-    m_bake.start(m_scene, m_settings, framesFor(m_scene, m_settings.count), m_scene.framesPerSecond);
+    m_bake.start(m_scene, *m_scene.crowd, framesFor(m_scene), m_scene.framesPerSecond);
+    m_scene.setBaked(0);
+    updateModified();
     setFrames(m_bake.frameCount());
     m_view->setPeople(m_bake.people());
     m_progress->setPercent(0);
@@ -148,7 +201,7 @@ void ScenePage::toggleBaking()
     m_progress->moveToBottom();
     m_bakeTimer.start();
     m_facts->showNote(tr("Baking %1 frames of %2 people")
-                          .arg(QString::number(m_bake.frameCount()), QString::number(m_settings.count)));
+                          .arg(QString::number(m_bake.frameCount()), QString::number(m_scene.crowdSize())));
     emit bakingChanged(true);
 }
 
@@ -182,7 +235,7 @@ void ScenePage::setPlaying(bool playing)
 {
     const bool plays = playing && m_bake.computedFrames() > 0;
     if (plays)
-        m_playTimer.start(1000 / m_bake.framesPerSecond());
+        m_playTimer.start(qRound(1000.0 / m_bake.framesPerSecond()));
     else
         m_playTimer.stop();
     m_playButton->setFilename(plays ? u":/Workstation/Pause"_s : u":/Workstation/Play"_s);
@@ -283,6 +336,8 @@ void ScenePage::finishBaking()
     m_bakeTimer.stop();
     showBaked();
     m_progress->hide();
+    m_scene.setBaked(m_bake.computedFrames());
+    updateModified();
     const bool whole = m_bake.computedFrames() == m_bake.frameCount();
     m_facts->showNote(whole ? tr("%1 frames are baked").arg(m_bake.frameCount())
                             : tr("Baking was stopped after %1 frames").arg(m_bake.computedFrames()));

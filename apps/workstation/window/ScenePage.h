@@ -7,6 +7,7 @@
 #include <QWidget>
 
 class OvixSvgButton;
+class QLabel;
 class SceneView;
 class StatusLine;
 class oVIXFloatingProgressBar;
@@ -20,8 +21,14 @@ class ScenePage : public QWidget
 public:
     explicit ScenePage(QWidget *parent = nullptr);
 
+    /// Shows a scene as it has been read. One without a length gets one.
     void setScene(const Scene &scene, const CrowdSettings &settings);
+    /// The scene as it is now, with all edits.
     const Scene &scene() const;
+    /// Whether it differs from its file.
+    bool isModified() const;
+    /// Tells what the scene's file has now.
+    void setSaved(const Scene &saved);
     SceneView *view() const;
     oVIXTimebarWidget *timebar() const;
     const Bake &bake() const;
@@ -45,6 +52,7 @@ public:
 
 signals:
     void bakingChanged(bool isBaking);
+    void modifiedChanged(bool isModified);
 
 protected:
     void hideEvent(QHideEvent *event) override;
@@ -52,8 +60,10 @@ protected:
 private:
     QWidget *createPlayer();
     void showCrowd();
-    /// The crop stays, as far as there are frames.
+    /// The crop shows as far as there are frames.
     void setFrames(int frames);
+    void takeOverCrop();
+    void updateModified();
     /// Whether frames may be replaced. The page may be gone afterwards, and then they may not.
     bool askToReplaceFrames();
     void showBaked();
@@ -67,9 +77,11 @@ private:
     oVIXTimebarWidget *m_timebar = nullptr;
     OvixSvgButton *m_playButton = nullptr;
     StatusLine *m_facts;
-    /// The scene as its file has it; the view's has the crowd.
+    QLabel *m_unsaved;
+    /// The people of the file; the view's scene has the crowd.
     Scene m_scene;
-    CrowdSettings m_settings;
+    Scene m_saved;
+    bool m_isModified = false;
     QTimer m_playTimer;
     QTimer m_bakeTimer;
     Bake m_bake;

@@ -8,6 +8,7 @@
 #include "start/SceneQuestions.h"
 #include "start/StartScreen.h"
 #include "window/SceneFactsDialog.h"
+#include "window/SceneKeeper.h"
 #include "window/ScenePage.h"
 #include "window/SceneView.h"
 #include "window/WaitPicture.h"
@@ -19,9 +20,10 @@
 #include <oVIXTitleBar.h>
 #include <oVIXWindowWaitGlobal.h>
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QMenuBar>
+#include <QPointer>
 #include <QSettings>
 #include <QStackedWidget>
 
@@ -49,7 +51,8 @@ static void useResources()
 WorkstationWindow::WorkstationWindow(const QString &projectsFolder, QSettings *settings)
     : m_onboarding(new Onboarding(this, settings)), m_pages(new QStackedWidget(this)),
       m_startScreen(new StartScreen(projectsFolder, m_pages)), m_scenePage(new ScenePage(m_pages)),
-      m_projectsFolder(projectsFolder), m_settings(settings), m_loading(getWindowWait(), getWindowWait())
+      m_keeper(new SceneKeeper(m_scenePage, this)), m_projectsFolder(projectsFolder), m_settings(settings),
+      m_loading(getWindowWait(), getWindowWait())
 {
     setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     setWindowTitle(QGuiApplication::applicationDisplayName());
@@ -66,6 +69,9 @@ WorkstationWindow::WorkstationWindow(const QString &projectsFolder, QSettings *s
 
     connect(m_startScreen, &StartScreen::openRequested, this, &WorkstationWindow::openScene);
     connect(m_startScreen, &StartScreen::selectionChanged, this, &WorkstationWindow::updateActions);
+    connect(m_scenePage, &ScenePage::modifiedChanged, this,
+            [this](bool isModified) { setWindowModified(isModified && showsScene()); });
+    connect(m_keeper, &SceneKeeper::saved, this, [this] { m_isListStale = true; });
     connect(&m_loading, &SceneLoading::loaded, this, &WorkstationWindow::showScene);
     connect(&m_loading, &SceneLoading::failed, this, &WorkstationWindow::reportProblem);
     connect(&m_loading, &SceneLoading::cancelled, this, &WorkstationWindow::noteProblem);
@@ -113,7 +119,7 @@ bool WorkstationWindow::isLoading() const
 
 void WorkstationWindow::openScene(const QString &path)
 {
-    if (isLoading())
+    if (isLoading() || !mayLeaveScene())
         return;
     startWaitDelayed();
     oVIXWindowWaitGlobal *wait = getWindowWait();
@@ -126,13 +132,24 @@ void WorkstationWindow::openScene(const QString &path)
     updateActions();
 }
 
+void WorkstationWindow::saveScene()
+{
+    if (!showsScene() || isLoading())
+        return;
+    finishEdits();
+    m_keeper->save(); // the window may be gone afterwards
+}
+
 void WorkstationWindow::closeScene()
 {
-    if (showsScene())
-        hidePanels();
-    m_scenePage->stopBaking();
+    if (!showsScene() || !mayLeaveScene())
+        return;
+    hidePanels();
     showPage(m_startScreen);
+    setWindowModified(false);
     setWindowTitle(QGuiApplication::applicationDisplayName());
+    if (std::exchange(m_isListStale, false))
+        m_startScreen->refresh();
     updateActions();
 }
 
@@ -183,6 +200,10 @@ void WorkstationWindow::changeEvent(QEvent *event)
 
 void WorkstationWindow::closeEvent(QCloseEvent *event)
 {
+    if (!mayLeaveScene()) {
+        event->ignore();
+        return;
+    }
     m_loading.cancel();
     m_onboarding->endTour();
     saveLayout();
@@ -203,6 +224,7 @@ void WorkstationWindow::createMenus()
 
     QMenu *scene = menuBar()->addMenu(tr("Scene"));
     m_openAction = scene->addAction(tr("Open"), QKeySequence::Open, m_startScreen, &StartScreen::openSelectedScene);
+    m_saveAction = scene->addAction(tr("Save"), QKeySequence::Save, this, &WorkstationWindow::saveScene);
     m_factsAction = scene->addAction(tr("Facts"), tr("Ctrl+I"), this, &WorkstationWindow::showSceneFacts);
     m_closeSceneAction =
         scene->addAction(tr("Back to projects"), QKeySequence::Close, this, &WorkstationWindow::closeScene);
@@ -348,8 +370,28 @@ void WorkstationWindow::showScene(const Scene &scene)
     m_scenePage->setScene(scene, m_parameters->crowd()->settings());
     showPage(m_scenePage);
     restorePanels();
-    setWindowTitle(tr("%1 - %2").arg(scene.name, QGuiApplication::applicationDisplayName()));
+    const QString shownName = QString(scene.name).replace(u"[*]"_s, u"[*][*]"_s);
+    setWindowTitle(tr("%1[*] - %2").arg(shownName, QGuiApplication::applicationDisplayName()));
+    setWindowModified(m_scenePage->isModified());
     endLoading();
+}
+
+void WorkstationWindow::finishEdits()
+{
+    const QPointer<QWidget> typing = QApplication::focusWidget();
+    if (typing)
+        typing->clearFocus();
+    if (typing && typing->isVisible())
+        typing->setFocus();
+    m_tags->finishEdits();
+}
+
+bool WorkstationWindow::mayLeaveScene()
+{
+    if (!showsScene())
+        return true;
+    finishEdits();
+    return m_keeper->mayLeave();
 }
 
 void WorkstationWindow::noteProblem(const QString &problem)
@@ -378,6 +420,7 @@ void WorkstationWindow::updateActions()
     m_openAction->setEnabled(ready && !showsScene() && m_startScreen->canOpen());
     for (QAction *action : std::as_const(m_fileActions))
         action->setEnabled(m_openAction->isEnabled());
+    m_saveAction->setEnabled(ready && showsScene()); // also for what is still being typed
     m_closeSceneAction->setEnabled(ready && showsScene());
     m_factsAction->setEnabled(ready && showsScene());
     for (QDockWidget *panel : panels())

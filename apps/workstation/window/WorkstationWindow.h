@@ -13,6 +13,7 @@ class QAction;
 class QDockWidget;
 class QSettings;
 class QStackedWidget;
+class SceneKeeper;
 class ScenePage;
 class StartScreen;
 class TagsPanel;
@@ -39,8 +40,11 @@ public:
     bool isLoading() const;
 
     /// Loads a scene file in the background and shows it. Only a load of more than a second shows the wait overlay.
-    /// Nothing while another one is being loaded.
+    /// Nothing while another one is being loaded, or when the user does not want to leave the one that is open.
     void openScene(const QString &path);
+    /// Saves the open scene to its file.
+    void saveScene();
+    /// Returns to the projects, which show what has been saved. Asks first when there is something to be lost.
     void closeScene();
     /// Opens the dialog about the open scene.
     void showSceneFacts();
@@ -74,6 +78,10 @@ private:
     void restoreLayout();
     void toggleMaximized();
     void showScene(const Scene &scene);
+    /// What is being typed counts as entered.
+    void finishEdits();
+    /// The window may be gone when the answer is no.
+    bool mayLeaveScene();
     void noteProblem(const QString &problem);
     void reportProblem(const QString &problem);
     void endLoading();
@@ -83,11 +91,13 @@ private:
     QStackedWidget *m_pages;
     StartScreen *m_startScreen;
     ScenePage *m_scenePage;
+    SceneKeeper *m_keeper;
     oVIXTitleBar *m_titleBar = nullptr;
     QString m_projectsFolder;
     QAction *m_openAction = nullptr;
     /// What is done to the file of the selected scene.
     QList<QAction *> m_fileActions;
+    QAction *m_saveAction = nullptr;
     QAction *m_closeSceneAction = nullptr;
     QAction *m_factsAction = nullptr;
     QAction *m_maximizeAction = nullptr;
@@ -95,6 +105,8 @@ private:
     ParametersPanel *m_parameters = nullptr;
     TagsPanel *m_tags = nullptr;
     QSettings *m_settings;
+    /// The start screen does not show yet what has been saved.
+    bool m_isListStale = false;
     /// Where the panels are while a scene is open.
     QByteArray m_panelState;
     /// Lets the wait overlay show what the loading thread says.
