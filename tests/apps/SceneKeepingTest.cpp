@@ -67,8 +67,8 @@ private slots:
         QVERIFY(!isMarked());
         QCOMPARE(page()->scene().crowdSize(), 5);
         page()->toggleBaking();
-        QVERIFY(isMarked());
         QTRY_VERIFY(!page()->bake().isRunning());
+        QVERIFY(isMarked());
         save()->trigger();
         const Scene saved = page()->scene();
 

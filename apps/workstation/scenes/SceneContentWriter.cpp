@@ -148,8 +148,11 @@ void SceneContentWriter::copyToken()
     case QXmlStreamReader::EndDocument:
         m_out.writeEndDocument();
         return;
-    case QXmlStreamReader::Comment:
     case QXmlStreamReader::DTD:
+        writeSpace();
+        m_out.writeDTD(m_in.text().trimmed().toString());
+        return;
+    case QXmlStreamReader::Comment:
     case QXmlStreamReader::EntityReference:
     case QXmlStreamReader::ProcessingInstruction:
         writeSpace();
