@@ -6,6 +6,8 @@
 #include <QWidget>
 #include <QWindow>
 
+#include <cstdlib>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -67,6 +69,18 @@ void RealInput::doubleClick(QPoint point)
 {
     moveTo(point);
     run({u"click"_s, u"--repeat"_s, u"2"_s, u"--delay"_s, u"60"_s, u"1"_s});
+}
+
+void RealInput::contextClick(QPoint point)
+{
+    moveTo(point);
+    run({u"click"_s, u"3"_s});
+}
+
+void RealInput::wheel(QPoint point, int notches)
+{
+    moveTo(point);
+    run({u"click"_s, u"--repeat"_s, QString::number(std::abs(notches)), notches > 0 ? u"4"_s : u"5"_s});
 }
 
 void RealInput::drag(QPoint from, QPoint to)

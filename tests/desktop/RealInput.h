@@ -18,6 +18,10 @@ void press();
 void release();
 void click(QPoint point);
 void doubleClick(QPoint point);
+/// With the right button.
+void contextClick(QPoint point);
+/// Turns the wheel by so many notches, away from the user when positive.
+void wheel(QPoint point, int notches);
 /// Press, several moves, release.
 void drag(QPoint from, QPoint to);
 /// Keys by their X names, as "Return" and "ctrl+o".
