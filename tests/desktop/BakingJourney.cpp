@@ -4,6 +4,7 @@
 #include "OvixMovableLabel.h"
 #include "OvixSvgButton.h"
 #include "VelmoMessageBox.h"
+#include "VelmoSceneItem.h"
 #include "oVIXButton.h"
 #include "oVIXTimebarWidget.h"
 #include "start/StatusLine.h"
@@ -11,6 +12,8 @@
 #include "window/SceneView.h"
 #include "window/WorkstationWindow.h"
 
+#include <QFile>
+#include <QLabel>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -60,8 +63,18 @@ private slots:
         // A click on the bar picks a frame; beyond the crop it is the crop's start.
         click(seen<QWidget>(u"Cached frames"_s));
         QTRY_COMPARE(timebar()->getCurrentPlayValue(), first);
+
+        chooseFromMenu(u"Scene"_s, u"Save"_s);
+        QTRY_VERIFY(!window()->isWindowModified());
+        QFile file(scenePath(u"Stadium Egress"_s, u"Steward briefing"_s));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray content = file.readAll();
+        QVERIFY(content.contains("bakestatus=\"Baked\""));
+        QVERIFY(content.contains(u"<crop first=\"%1\" last=\"%2\"/>"_s.arg(first).arg(last).toLatin1()));
         chooseFromMenu(u"Scene"_s, u"Back to projects"_s);
         QTRY_VERIFY(!window()->showsScene());
+        QVERIFY(seen<QLabel>(u"Baked"_s, seen<VelmoSceneItem>(u"Steward briefing"_s)));
+        keep(u"listed"_s);
     }
 
     void asksBeforeItBakesAgain()
@@ -120,8 +133,8 @@ private:
     void dragMarker(const QString &name, int way)
     {
         const OvixMovableLabel *dragged = marker(name);
-        const int outwards = name == u"Crop start"_s ? -dragged->width() / 4 : dragged->width() / 4;
-        const QPoint hold = middleOf(dragged) + QPoint(outwards, 0);
+        const int inwards = name == u"Crop start"_s ? dragged->width() / 4 : -dragged->width() / 4;
+        const QPoint hold = middleOf(dragged) + QPoint(inwards, 0);
         RealInput::moveTo(hold); // which makes it show
         RealInput::drag(hold, hold + QPoint(way, 0));
     }

@@ -2,6 +2,7 @@
 #include "desktop/RealInput.h"
 
 #include "OvixSvgButton.h"
+#include "VelmoMessageBox.h"
 #include "VelmoProjectsTable.h"
 #include "VelmoScenesTable.h"
 #include "oVIXButton.h"
@@ -54,7 +55,8 @@ private slots:
         RealInput::key(u"space"_s);
         QTRY_VERIFY(!page()->isPlaying());
 
-        RealInput::key(u"ctrl+w"_s);
+        onceOpen<VelmoMessageWidget>([](VelmoMessageWidget *) { RealInput::key(u"Return"_s); });
+        RealInput::key(u"ctrl+w"_s); // and yes, save it
         QTRY_VERIFY(!window()->showsScene());
         keep(u"returned"_s);
         QVERIFY(QApplication::focusWidget());

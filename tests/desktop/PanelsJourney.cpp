@@ -104,7 +104,12 @@ private slots:
 
 private:
     LibraryPanel *library() const { return window()->libraryPanel(); }
-    static QPoint titleOf(oVIXDock *dock) { return dock->getTitleWidget()->mapToGlobal(QPoint(40, 12)); }
+    /// A place of the header that takes hold of the panel: not in the search field, nor on a button.
+    static QPoint titleOf(oVIXDock *dock)
+    {
+        const QWidget *header = dock->getTitleWidget();
+        return header->mapToGlobal(QPoint(header->width() * 6 / 10, 12));
+    }
     /// Presses a button of a panel's header, which shows them under the pointer.
     void press(oVIXDock *dock, const QString &button)
     {

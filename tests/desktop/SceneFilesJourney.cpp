@@ -102,7 +102,7 @@ private slots:
         QTRY_VERIFY(!exists(u"Market morning copy"_s));
         QCOMPARE(trash(), QStringList(u"Market morning copy.vscene"_s));
         QCOMPARE(contentOf(u"Market morning"_s), content);
-        QTRY_COMPARE(table()->getSelectedScene(), u"Storm barrier drill"_s); // the next one
+        QTRY_COMPARE(table()->getSelectedScene(), u"Market morning"_s); // the last one that can be read
         keep(u"deleted"_s);
     }
 
