@@ -34,11 +34,11 @@ private slots:
         QCOMPARE(timebar()->getCached(), 749);
         keep(u"baked"_s);
 
-        dragMarker(u"Crop start"_s, 100);
+        dragMarker(u"Crop start"_s, 20);
         const int first = timebar()->getCropStartValue();
-        dragMarker(u"Crop end"_s, -(marker(u"Crop end"_s)->x() - marker(u"Crop start"_s)->x()) + 25);
+        dragMarker(u"Crop end"_s, marker(u"Crop start"_s)->x() - marker(u"Crop end"_s)->x());
         const int last = timebar()->getCropEndValue();
-        QVERIFY2(first > 40 && last > first + 5 && last < first + 60, qPrintable(u"%1 to %2"_s.arg(first).arg(last)));
+        QVERIFY2(first > 10 && last > first + 5 && last < first + 100, qPrintable(u"%1 to %2"_s.arg(first).arg(last)));
         keep(u"cropped"_s);
 
         click(seen<OvixSvgButton>(u"Play"_s));

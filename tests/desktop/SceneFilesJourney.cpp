@@ -114,7 +114,7 @@ private slots:
         keep(u"new"_s);
         RealInput::key(u"ctrl+o"_s);
         QTRY_VERIFY(window()->showsScene());
-        QVERIFY(window()->windowTitle().startsWith(u"New scene - "_s));
+        QVERIFY(window()->windowTitle().startsWith(u"New scene"_s));
         keep(u"opened"_s);
     }
 

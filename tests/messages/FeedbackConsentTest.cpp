@@ -151,6 +151,15 @@ private slots:
         QVERIFY(group->text(QAccessible::Name).startsWith(u"Help us improve Velmo, by"_s));
     }
 
+    void isAnsweredByTheArrowKeys()
+    {
+        Dialog dialog;
+        Gestures::show(&dialog);
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Up);
+        QVERIFY(dialog.options[yes]->isChecked());
+    }
+
 private:
     QTemporaryDir m_folder;
 };

@@ -154,17 +154,19 @@ void VelmoFeedbackConsentDialog::createDialogElements()
 
 void VelmoFeedbackConsentDialog::setupRadioButtons()
 {
+    QRadioButton *chosen = m_no;
     switch (FeedbackRules::choiceOf(stored(enabledKey), FeedbackRules::reminderDate(stored(reminderKey)))) {
     case FeedbackRules::Choice::Yes:
-        m_yes->setChecked(true);
+        chosen = m_yes;
         break;
     case FeedbackRules::Choice::RemindLater:
-        m_remindLater->setChecked(true);
+        chosen = m_remindLater;
         break;
     case FeedbackRules::Choice::No:
-        m_no->setChecked(true);
         break;
     }
+    chosen->setChecked(true);
+    chosen->setFocus(); // from any other one the arrow keys would not choose
 }
 
 void VelmoFeedbackConsentDialog::addText(QVBoxLayout *layout, const QString &text, const QString &sheet)
