@@ -1,4 +1,5 @@
 #include "SceneRows.h"
+#include "support/Assistive.h"
 #include "support/Picture.h"
 #include "support/TestCase.h"
 
@@ -230,14 +231,22 @@ private slots:
     void speaksOfItsRows()
     {
         ShownProjects shown(2);
-        QAccessibleInterface *row = QAccessible::queryAccessibleInterface(projectAt(*shown.table, 1));
+        QAccessibleInterface *row = Assistive::of(projectAt(*shown.table, 1));
+        QAccessibleInterface *list = row->parent(); // which has rows for its children
+        QVERIFY(list->role() == QAccessible::List && list->object() == listOf(*shown.table));
+        QCOMPARE(list->text(QAccessible::Name), u"Projects"_s);
+        QVERIFY(list->childCount() == 2 && list->child(1) == row && list->indexOfChild(row) == 1 && !list->child(2));
+        const QPoint middle = row->rect().center();
+        QCOMPARE(list->childAt(middle.x(), middle.y()), row);
         QCOMPARE(row->role(), QAccessible::ListItem);
         QCOMPARE(row->text(QAccessible::Name), u"Project 1.vproj"_s);
         QCOMPARE(listOf(*shown.table)->item(1)->data(Qt::AccessibleTextRole).toString(), u"Project 1.vproj"_s);
         QVERIFY(row->state().selectable && !row->state().selected);
-        row->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-        QVERIFY(row->state().selected);
+        QVERIFY(Assistive::act(projectAt(*shown.table, 1)));
+        QVERIFY(row->state().selected && row->state().focusable && !row->state().focused);
         QCOMPARE(shown.table->getSelectedProject(), pathOf(1));
+        Gestures::focus(listOf(*shown.table));
+        QVERIFY(row->state().focused && list->focusChild() == row);
     }
 };
 

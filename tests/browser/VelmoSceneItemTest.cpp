@@ -1,4 +1,5 @@
 #include "SceneRows.h"
+#include "support/Assistive.h"
 #include "support/Picture.h"
 #include "support/TestCase.h"
 
@@ -286,26 +287,26 @@ private slots:
         QVERIFY(box->state().checkable && !box->state().checked);
 
         VelmoSceneItem lone(nullptr);
-        QAccessible::queryAccessibleInterface(&lone)->actionInterface()->doAction(press);
-        actions->doAction(press);
+        Assistive::act(&lone);
+        Assistive::act(row);
         QCOMPARE(list.selectedItems(), QList{list.item(1)});
         row->setSelected(true);
-        actions->doAction(toggle);
+        Assistive::act(row, toggle);
         QVERIFY(spoken->state().selected && spoken->state().checked && box->state().checked);
         QCOMPARE(list.item(1)->data(Qt::AccessibleDescriptionRole).toString(), u"Chosen"_s);
-        box->actionInterface()->doAction(press);
+        Assistive::act(box->object());
         QVERIFY(!row->isAddEnabled() && !box->state().checked);
         QCOMPARE(list.item(1)->data(Qt::AccessibleDescriptionRole).toString(), QString());
 
         row->setAddVisible(false);
         QVERIFY(!spoken->state().checkable && !actions->actionNames().contains(toggle));
-        actions->doAction(toggle);
+        Assistive::act(row, toggle);
         row->setAddVisible(true);
         row->setEnabled(false);
         list.clearSelection();
         QVERIFY(spoken->state().disabled && !spoken->state().selectable);
-        actions->doAction(toggle);
-        actions->doAction(press);
+        Assistive::act(row, toggle);
+        Assistive::act(row);
         QCOMPARE(changed.count(), 2);
         QVERIFY(list.selectedItems().isEmpty());
     }

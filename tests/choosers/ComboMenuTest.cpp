@@ -1,9 +1,9 @@
+#include "support/Assistive.h"
 #include "support/Gestures.h"
 #include "support/TestCase.h"
 
 #include "choosers/oVIXCombo.h"
 
-#include <QAccessible>
 #include <QElapsedTimer>
 #include <QMenu>
 #include <QPointer>
@@ -78,13 +78,28 @@ private slots:
                 texts << action->text();
             QCOMPARE(menu->pos(), shown.part("comboLabel")->mapToGlobal(QPoint()));
             QCOMPARE(menu->width(), 200 - shown.part("comboLabel")->x() - 12);
-            QVERIFY(QAccessible::queryAccessibleInterface(shown.combo)->state().expanded);
+            QAccessibleInterface *accessible = Assistive::of(shown.combo);
+            QVERIFY(accessible->state().expanded && accessible->childCount() == 1);
+            QVERIFY(accessible->child(0) == Assistive::of(menu) && accessible->indexOfChild(Assistive::of(menu)) == 0);
+            QCOMPARE(Assistive::of(menu)->parent(), accessible);
             choose(menu, 1);
         });
         Gestures::click(shown.part("textLabel"));
         QCOMPARE(texts, QStringList({u"walk"_s, u"stand"_s, u"a && <i>b</i> c"_s}));
         QCOMPARE(shown.told.join(u' '), u"opened hovered2 closed changed2"_s);
         QCOMPARE(shown.combo->getCurrentComboMeta(), u"stand"_s);
+    }
+
+    void isChosenFromByAssistiveTools()
+    {
+        Shown shown;
+        shown.whileOpen([](QMenu *menu) {
+            Assistive::of(menu)->child(1)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+            QVERIFY(!menu->isVisible());
+        });
+        QVERIFY(Assistive::act(shown.combo));
+        QCOMPARE(shown.told.join(u' '), u"opened closed changed1"_s);
+        QVERIFY(!Assistive::of(shown.combo)->state().expanded);
     }
 
     void opensOnlyWhereItShould_data()

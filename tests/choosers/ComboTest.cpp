@@ -188,6 +188,9 @@ private slots:
         QCOMPARE(accessible->role(), QAccessible::ComboBox);
         QCOMPARE(accessible->text(QAccessible::Name), u"Motion"_s);
         QCOMPARE(accessible->text(QAccessible::Value), u"mixed"_s);
+        QAccessibleTextInterface *choice = accessible->textInterface();
+        QCOMPARE(choice->text(0, choice->characterCount()), u"mixed"_s);
+        QCOMPARE(choice->text(2, 4), u"xe"_s);
         combo.resize(200, 20);
         Gestures::show(&combo);
         const QPoint middle = accessible->rect().center();

@@ -1,3 +1,4 @@
+#include "support/Assistive.h"
 #include "support/Gestures.h"
 #include "support/TestCase.h"
 
@@ -86,6 +87,24 @@ private slots:
         QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(&chip);
         QCOMPARE(accessible->role(), QAccessible::ListItem);
         QCOMPARE(accessible->text(QAccessible::Name), chip.text());
+        QVERIFY(!Assistive::act(&chip)); // it is in no list
+    }
+
+    void isPressedByAssistiveTools()
+    {
+        Shown shown;
+        QAccessibleInterface *list = Assistive::of(shown.list);
+        QCOMPARE(list->childCount(), 3);
+        QAccessibleInterface *house = list->child(1);
+        QVERIFY(house->text(QAccessible::Name) == u"House"_s && house->parent() == list);
+        QVERIFY(house->state().selectable && !house->state().selected && !house->state().focusable);
+        QSignalSpy pressed(shown.list, &QListWidget::itemPressed);
+        QVERIFY(Assistive::act(house->object()));
+        QVERIFY(house->state().selected);
+        QCOMPARE(pressed, (QList<QVariantList>{{QVariant::fromValue(shown.list->item(1))}}));
+        connect(shown.list, &QListWidget::itemPressed, this, [&shown] { delete shown.list; });
+        QVERIFY(Assistive::act(list->child(2)->object()));
+        QVERIFY(!shown.list);
     }
 
     /// The reverse of what a drag usually takes.

@@ -5,21 +5,21 @@
 #include "browser/VelmoCurtainWidget.h"
 #include "browser/VelmoProjectItem.h"
 #include "browser/VelmoSceneItem.h"
-#include "foundation/AccessiblePressable.h"
+#include "foundation/AccessibleRows.h"
 #include "foundation/AccessibleWidgets.h"
 
 #include <QListWidget>
 
 namespace {
 
-template <class Row> class AccessibleRow : public AccessiblePressable
+template <class Row> class AccessibleBrowserRow : public AccessibleRow
 {
 public:
-    explicit AccessibleRow(QWidget *widget) : AccessiblePressable(widget, QAccessible::ListItem) { }
+    using AccessibleRow::AccessibleRow;
 
     QAccessible::State state() const override
     {
-        QAccessible::State state = AccessiblePressable::state();
+        QAccessible::State state = AccessibleRow::state();
         state.selectable = row()->isEnabled();
         state.selected = row()->isSelected();
         return state;
@@ -37,14 +37,14 @@ protected:
     Row *row() const { return static_cast<Row *>(widget()); }
 };
 
-class AccessibleSceneItem : public AccessibleRow<VelmoSceneItem>
+class AccessibleSceneItem : public AccessibleBrowserRow<VelmoSceneItem>
 {
 public:
-    using AccessibleRow::AccessibleRow;
+    using AccessibleBrowserRow::AccessibleBrowserRow;
 
     QAccessible::State state() const override
     {
-        QAccessible::State state = AccessibleRow::state();
+        QAccessible::State state = AccessibleBrowserRow::state();
         state.checkable = row()->isAddVisible();
         state.checked = row()->isAddEnabled();
         return state;
@@ -52,7 +52,7 @@ public:
 
     QStringList actionNames() const override
     {
-        QStringList names = AccessibleRow::actionNames();
+        QStringList names = AccessibleBrowserRow::actionNames();
         if (isToggleable())
             names << toggleAction();
         return names;
@@ -61,9 +61,9 @@ public:
     void doAction(const QString &action) override
     {
         if (action != toggleAction())
-            AccessibleRow::doAction(action);
+            AccessibleBrowserRow::doAction(action);
         else if (isToggleable())
-            QMetaObject::invokeMethod(row(), "addTriggered");
+            QMetaObject::invokeMethod(row(), "addTriggered", Qt::QueuedConnection);
     }
 
 private:
@@ -127,7 +127,8 @@ private:
 void AccessibleBrowser::install()
 {
     static const bool added = [] {
-        AccessibleWidgets::add<AccessibleRow<VelmoProjectItem>>("VelmoProjectItem");
+        AccessibleWidgets::add<AccessibleRowList>("BrowserListWidget");
+        AccessibleWidgets::add<AccessibleBrowserRow<VelmoProjectItem>>("VelmoProjectItem");
         AccessibleWidgets::add<AccessibleSceneItem>("VelmoSceneItem");
         AccessibleWidgets::add<AccessibleSceneToggle>("SceneToggle");
         AccessibleWidgets::add<AccessibleCurtainArrow>("CurtainArrow");

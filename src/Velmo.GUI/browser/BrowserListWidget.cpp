@@ -1,5 +1,7 @@
 #include "browser/BrowserListWidget.h"
 
+#include "browser/AccessibleBrowser.h"
+
 #include <QScrollBar>
 
 #include <algorithm>
@@ -25,6 +27,7 @@ QString scrollBarSheet()
 
 BrowserListWidget::BrowserListWidget(QWidget *parent) : DeferredListWidget(parent)
 {
+    AccessibleBrowser::install();
     verticalScrollBar()->setStyleSheet(scrollBarSheet());
 }
 

@@ -15,7 +15,8 @@ class VelmoCurtainWidget;
 /// fills, with a thin line below.
 ///
 /// A click on the arrow shows or hides the container. Title and subtitle are plain text on one line and give way at the
-/// right. A focus policy given to the curtain is its arrow's: Space and Return then press it.
+/// right. A focus policy given to the curtain is its arrow's: Space and Return then press it. Assistive tools see the
+/// arrow as a button with the title that is expanded or not.
 class VELMO_GUI_EXPORT VelmoCurtainWidget : public QWidget
 {
     Q_OBJECT

@@ -17,7 +17,8 @@ class VelmoProjectsTable;
 /// The list of the user's projects: column titles above rows with a project's file name and when it was last modified.
 ///
 /// One project can be selected. Paths are found whatever their case; of several rows with one path the first counts.
-/// A row that has just been added gets its place at the next turn of the event loop.
+/// A row that has just been added gets its place at the next turn of the event loop. Assistive tools see a list of the
+/// projects; pressing one selects it.
 class VELMO_GUI_EXPORT VelmoProjectsTable : public QWidget
 {
     Q_OBJECT

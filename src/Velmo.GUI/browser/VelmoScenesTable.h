@@ -25,6 +25,8 @@ class VelmoScenesTable;
 ///
 /// Names are found whatever their case; of several rows with one name the first counts. Row numbers count the scenes
 /// in the order added, from 0. A row that has just been added gets its place at the next turn of the event loop.
+/// Assistive tools see a list of the scenes, with the add button at its end; pressing one selects it, toggling chooses
+/// it.
 class VELMO_GUI_EXPORT VelmoScenesTable : public QWidget
 {
     Q_OBJECT

@@ -7,8 +7,9 @@
 /// A text button, with an optional icon before the text and an optional checked state.
 ///
 /// The text is plain text; what is too long is shown with an ellipsis. The button answers the release, not the press,
-/// and only inside itself, so a left double click emits `clicked`, `doubleClicked` and `clicked` again. With a focus
-/// policy set, Space and Return press it.
+/// and only inside itself, so a left double click emits `clicked`, `doubleClicked` and
+/// `clicked` again. With a focus policy set, Space and Return press it. Assistive tools see a button, or a check box,
+/// with its text.
 ///
 /// The look is the widget's own style sheet; a sheet set from outside takes its place, and may tell the checked state
 /// by the selector `[checked="true"]`.

@@ -2,6 +2,7 @@
 
 #include "choosers/AccessibleChoosers.h"
 #include "choosers/ComboItems.h"
+#include "foundation/AccessibleWidgets.h"
 #include "foundation/KeyboardPress.h"
 #include "foundation/SheetOnChange.h"
 #include "foundation/ShownText.h"
@@ -361,6 +362,9 @@ void oVIXCombo::showMenu()
     m_menu = new QMenu(this);
     fillMenu();
     connect(m_menu, &QMenu::hovered, this, &oVIXCombo::hoveredMenuAction);
+    connect(m_menu, &QMenu::triggered, this, &oVIXCombo::triggeredMenuAction);
+    m_triggered.clear();
+    AccessibleWidgets::announceExpanded(this);
 
     // Whoever hears of the menu, and whatever happens while it is open, may change the items or end the combo.
     const QPointer<oVIXCombo> alive(this);
@@ -370,12 +374,13 @@ void oVIXCombo::showMenu()
     QAction *const chosen = m_menu->exec(m_ui->comboLabel->mapToGlobal(QPoint()));
     if (!alive)
         return;
-    const int index = m_actions.value(chosen, -1);
+    const int index = m_actions.value(chosen ? chosen : m_triggered.data(), -1);
     if (m_menu) {
         disconnect(m_menu, nullptr, this, nullptr);
         m_menu->deleteLater();
         m_menu = nullptr;
     }
+    AccessibleWidgets::announceExpanded(this);
     emit menuClosed();
     if (!alive)
         return;
@@ -390,6 +395,14 @@ void oVIXCombo::hoveredMenuAction(QAction *action)
     const int index = m_actions.value(action, -1);
     if (m_items->has(index))
         emit hovered(index);
+}
+
+/// Assistive tools trigger an item without closing the menu.
+void oVIXCombo::triggeredMenuAction(QAction *action)
+{
+    m_triggered = action;
+    if (m_menu)
+        m_menu->close();
 }
 
 /// Override mode counts only while it is allowed.

@@ -29,7 +29,9 @@ class oVIXCombo;
 ///
 /// Texts are plain text; what is too long is shown with an ellipsis. Indexes outside the items are ignored.
 ///
-/// With a focus policy set, Space and Return press the button and Down opens the menu.
+/// With a focus policy set, Space and Return press the button and Down opens the menu. Assistive tools are told a combo
+/// box with the caption as its name (else the tool tip), the choice as its value and text, and whether the menu is
+/// open; the open menu is its child, and pressing an item of it chooses.
 class VELMO_GUI_EXPORT oVIXCombo : public QLabel
 {
     Q_OBJECT
@@ -134,12 +136,15 @@ private slots:
     void buttonClicked();
     void showMenu();
     void hoveredMenuAction(QAction *action);
+    void triggeredMenuAction(QAction *action);
 
 private:
     bool inOverrideMode() const;
     void showChoice(const QString &text);
     void fillMenu();
     void updateStyle();
+
+    friend class AccessibleCombo;
 
     std::unique_ptr<Ui::oVIXCombo> m_ui;
     std::unique_ptr<ComboItems> m_items;
@@ -148,5 +153,6 @@ private:
     bool m_allowOverride = true;
     bool m_override = true;
     QPointer<QMenu> m_menu;
+    QPointer<QAction> m_triggered;
     QHash<QAction *, int> m_actions;
 };

@@ -29,7 +29,15 @@ void AccessiblePressable::doAction(const QString &action)
     if (action != pressAction())
         QAccessibleWidget::doAction(action);
     else if (isPressable())
-        press();
+        QMetaObject::invokeMethod(
+            widget(), [pressed = widget()] { pressNow(pressed); }, Qt::QueuedConnection);
+}
+
+void AccessiblePressable::pressNow(QWidget *widget)
+{
+    auto *pressable = dynamic_cast<AccessiblePressable *>(QAccessible::queryAccessibleInterface(widget));
+    if (pressable && pressable->isPressable())
+        pressable->press();
 }
 
 bool AccessiblePressable::isPressable() const

@@ -3,7 +3,8 @@
 #include <QAccessibleWidget>
 
 /// A widget that can be pressed, as assistive tools see it. Its name is the accessible name, else the tool tip, else
-/// what the widget says of its purpose.
+/// what the widget says of its purpose. The press comes with the next turn of the event loop: whoever asks for it would
+/// else wait for the end of a menu or a dialog that it opens.
 class AccessiblePressable : public QAccessibleWidget
 {
 public:
@@ -20,6 +21,9 @@ protected:
     virtual bool isPressable() const;
     /// Does what a click does.
     virtual void press() = 0;
+
+private:
+    static void pressNow(QWidget *widget);
 };
 
 /// A button that may be made checkable.

@@ -33,11 +33,16 @@ void paintFocusRing(QWidget *widget)
 
 void paintFocusRing(QWidget *widget, const QWidget *focused)
 {
+    paintFocusRing(widget, focused, widget->rect(), ringRadius);
+}
+
+void paintFocusRing(QWidget *widget, const QWidget *focused, const QRect &place, qreal radius)
+{
     if (!hasKeyboardFocus(focused))
         return;
     QPainter painter(widget);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(ringColour, ringWidth));
     const qreal inset = ringWidth / 2;
-    painter.drawRoundedRect(QRectF(widget->rect()).adjusted(inset, inset, -inset, -inset), ringRadius, ringRadius);
+    painter.drawRoundedRect(QRectF(place).adjusted(inset, inset, -inset, -inset), radius, radius);
 }

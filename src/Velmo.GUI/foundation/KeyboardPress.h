@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QtGlobal>
+
 class QKeyEvent;
+class QRect;
 class QWidget;
 
 /// Whether the application has made the widget answer keys, and it has the focus itself, not one of its children.
@@ -14,3 +17,5 @@ bool isPressKey(const QWidget *widget, const QKeyEvent *event);
 void paintFocusRing(QWidget *widget);
 /// The same on a child that covers @p focused, the widget that takes the keyboard.
 void paintFocusRing(QWidget *widget, const QWidget *focused);
+/// The same round @p place, a part of the widget with corners of @p radius.
+void paintFocusRing(QWidget *widget, const QWidget *focused, const QRect &place, qreal radius);

@@ -2,7 +2,7 @@
 
 #include "foundation/OvixSvgLabel.h"
 
-/// The flat icon button of the library, with an optional checked state.
+/// The flat icon button of the library, with an optional checked state. Assistive tools see a button or check box.
 ///
 /// A button answers the release, not the press, and only while it is enabled and under the pointer. A left double click
 /// therefore emits `clicked`, `doubleClicked` and `clicked` again. With a focus policy set, Space and Return press it.

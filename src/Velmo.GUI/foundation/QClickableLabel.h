@@ -7,7 +7,7 @@
 /// A text or picture that can be clicked.
 ///
 /// `clicked` comes on press; connect to `clickReleased` to act on release. Other buttons are left to the parent widget.
-/// With a focus policy set, Space and Return press it.
+/// With a focus policy set, Space and Return press it. Assistive tools see a button named by its text.
 class VELMO_GUI_EXPORT QClickableLabel : public QLabel
 {
     Q_OBJECT

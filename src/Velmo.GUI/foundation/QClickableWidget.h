@@ -5,7 +5,7 @@
 #include <QWidget>
 
 /// A plain widget that can be clicked: `clicked` comes on a left press, other buttons are left to the parent widget.
-/// With a focus policy set, Space and Return press it.
+/// With a focus policy set, Space and Return press it. Assistive tools see a button named by the text on it.
 class VELMO_GUI_EXPORT QClickableWidget : public QWidget
 {
     Q_OBJECT

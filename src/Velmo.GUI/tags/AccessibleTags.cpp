@@ -1,20 +1,25 @@
 #include "tags/AccessibleTags.h"
 
-#include "foundation/AccessiblePressable.h"
+#include "foundation/AccessibleRows.h"
 #include "foundation/AccessibleWidgets.h"
 #include "tags/oVIXDragTag.h"
 #include "tags/oVIXTagListWidgetItem.h"
 
+#include <QListWidget>
+#include <QPointer>
+
 namespace {
 
-class AccessibleDragTag : public AccessiblePressable
+class AccessibleDragTag : public AccessibleRow
 {
 public:
-    explicit AccessibleDragTag(QWidget *widget) : AccessiblePressable(widget, QAccessible::ListItem) { }
+    using AccessibleRow::AccessibleRow;
 
 protected:
-    QString purpose() const override { return tag()->text(); }
-    bool isPressable() const override { return tag()->isEnabled(); }
+    QString purpose() const override
+    {
+        return tag()->isAdd() && tag()->text().isEmpty() ? oVIXDragTag::tr("Add") : tag()->text();
+    }
     void press() override
     {
         if (tag()->isAdd())
@@ -27,15 +32,31 @@ private:
     oVIXDragTag *tag() const { return static_cast<oVIXDragTag *>(widget()); }
 };
 
-class AccessibleTagListItem : public QAccessibleWidget
+class AccessibleTagListItem : public AccessibleRow
 {
 public:
-    explicit AccessibleTagListItem(QWidget *widget) : QAccessibleWidget(widget, QAccessible::ListItem) { }
+    using AccessibleRow::AccessibleRow;
 
-    QString text(QAccessible::Text kind) const override
+    QAccessible::State state() const override
     {
-        const QString text = QAccessibleWidget::text(kind);
-        return kind == QAccessible::Name && text.isEmpty() ? static_cast<QLabel *>(widget())->text() : text;
+        QAccessible::State state = AccessibleRow::state();
+        if (const QListWidgetItem *row = item()) {
+            state.selectable = row->flags().testFlag(Qt::ItemIsSelectable);
+            state.selected = row->isSelected();
+        }
+        return state;
+    }
+
+protected:
+    QString purpose() const override { return static_cast<QLabel *>(widget())->text(); }
+    bool isPressable() const override { return AccessibleRow::isPressable() && item(); }
+    void press() override
+    {
+        QListWidgetItem *row = item();
+        const QPointer<QWidget> chip(widget());
+        row->listWidget()->setCurrentItem(row);
+        if (chip && item() == row) // whoever heard of that may have changed the list
+            emit row->listWidget()->itemPressed(row);
     }
 };
 
@@ -44,6 +65,8 @@ public:
 void AccessibleTags::install()
 {
     static const bool added = [] {
+        AccessibleWidgets::add<AccessibleRowList>("oVIXDragDropListWidget");
+        AccessibleWidgets::add<AccessibleRowList>("oVIXTagListWidget");
         AccessibleWidgets::add<AccessibleDragTag>("oVIXDragTag");
         AccessibleWidgets::add<AccessibleTagListItem>("oVIXTagListWidgetItem");
         return true;

@@ -1,6 +1,7 @@
 #include "tags/oVIXDragDropListWidget.h"
 
 #include "foundation/DeferredRows.h"
+#include "tags/AccessibleTags.h"
 #include "tags/SortedPlace.h"
 #include "tags/TagSheets.h"
 #include "tags/VelmoDrag.h"
@@ -92,6 +93,7 @@ protected:
 oVIXDragDropListWidget::oVIXDragDropListWidget(QWidget *parent)
     : QListWidget(parent), m_deferred(new DeferredRows(this))
 {
+    AccessibleTags::install();
     setSelectionMode(NoSelection);
     setAcceptDrops(true);
     setItemDelegate(new RowWithoutText(this));

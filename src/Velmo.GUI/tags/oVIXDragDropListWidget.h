@@ -17,7 +17,8 @@ class DeferredRows;
 /// numbers what the user asks for. It decides nothing: a drop changes no list unless the owner does. Rows cannot be
 /// selected. Rows that are added while the list is on screen take their place at the next turn of the event loop, and
 /// their tags are not visible before they first come into view. The owner may delete the list or its rows from any
-/// signal.
+/// signal. Assistive tools see a list of the tags, which have their buttons for children; pressing a tag is a double
+/// click on it.
 class VELMO_GUI_EXPORT oVIXDragDropListWidget : public QListWidget
 {
     Q_OBJECT

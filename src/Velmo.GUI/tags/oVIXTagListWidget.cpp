@@ -1,6 +1,7 @@
 #include "tags/oVIXTagListWidget.h"
 
 #include "foundation/SheetOnChange.h"
+#include "tags/AccessibleTags.h"
 #include "tags/TagSheets.h"
 
 #include <QApplication>
@@ -11,6 +12,7 @@
 oVIXTagListWidget::oVIXTagListWidget(QWidget *parent)
     : QListWidget(parent), m_tagColor(105, 105, 105), m_textColor(39, 39, 39)
 {
+    AccessibleTags::install();
     setFocusPolicy(Qt::NoFocus);
     oVIXTagListWidget::updateStyle();
     verticalScrollBar()->setStyleSheet(TagSheets::tagListScrollBar());

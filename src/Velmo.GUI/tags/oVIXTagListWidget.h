@@ -10,7 +10,8 @@
 /// `setItemWidget`, in the list's two colours.
 ///
 /// Takes no keyboard focus and leaves all keys to the parent widget. With single selection the inherited `itemPressed`
-/// comes once more on release, with the selected item.
+/// comes once more on release, with the selected item. Assistive tools see a list of the chips; pressing one selects it
+/// and emits `itemPressed` once.
 class VELMO_GUI_EXPORT oVIXTagListWidget : public QListWidget
 {
     Q_OBJECT
