@@ -1,3 +1,4 @@
+#include "support/Assistive.h"
 #include "support/Events.h"
 #include "support/Gestures.h"
 #include "support/TestCase.h"
@@ -17,6 +18,7 @@
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLayout>
+#include <QMenu>
 #include <QMenuBar>
 #include <QScopeGuard>
 #include <QSignalSpy>
@@ -262,6 +264,44 @@ private slots:
         auto *last = new QLabel;
         title.getCloseWidget()->insertWidget(last, 99);
         QCOMPARE(title.getCloseWidget()->layout()->indexOf(last), 3);
+    }
+
+    void itsTitleIsUsedByAssistiveTools()
+    {
+        Window window;
+        QMenu *scene = window.menuBar()->addMenu(u"&Scene"_s);
+        scene->addAction(u"Open"_s);
+        window.menuBar()->addAction(u"Save && close"_s);
+        oVIXTitleBar title(window.menuBar(), false, false, true);
+        window.resize(600, 300);
+        Gestures::show(&window);
+        QAccessibleInterface *bar = Assistive::of(window.menuBar());
+        QVERIFY(bar->role() == QAccessible::MenuBar && bar->childCount() == 3 && !bar->child(3));
+        const QString showMenu = QAccessibleActionInterface::showMenuAction();
+        const QString press = QAccessibleActionInterface::pressAction();
+        const QStringList names{u"Scene"_s, u"Save & close"_s};
+        for (int i = 0; i < 2; ++i) {
+            QAccessibleInterface *menu = bar->child(i);
+            QCOMPARE(menu->text(QAccessible::Name), names[i]);
+            QCOMPARE(menu->actionInterface()->actionNames(), QStringList(i == 0 ? showMenu : press));
+            QVERIFY(menu->parent() == bar && bar->indexOfChild(menu) == i);
+            const QPoint middle = menu->rect().center();
+            QCOMPARE(bar->childAt(middle.x(), middle.y()), menu);
+        }
+        QSignalSpy triggered(window.menuBar()->actions().at(1), &QAction::triggered);
+        bar->child(1)->actionInterface()->doAction(press);
+        QCOMPARE(triggered.size(), 1);
+        bar->child(0)->actionInterface()->doAction(showMenu);
+        QVERIFY(scene->isVisible() && bar->child(0)->state().expanded);
+        QCOMPARE(bar->child(0)->child(0), Assistive::of(scene));
+        bar->child(0)->actionInterface()->doAction(showMenu);
+        QVERIFY(!scene->isVisible());
+
+        QAccessibleInterface *buttons = bar->child(2);
+        QVERIFY(buttons->object() == title.getCloseWidget() && bar->indexOfChild(buttons) == 2);
+        delete window.menuBar()->actions().at(1);
+        QCOMPARE(bar->childCount(), 2);
+        QCOMPARE(bar->child(1), buttons);
     }
 
     void saysThatItCloses()

@@ -1,6 +1,7 @@
 #include "frame/oVIXTitleBar.h"
 
 #include "foundation/OvixSvgLabel.h"
+#include "frame/AccessibleTitleBar.h"
 #include "frame/oVIXMinMaxCloseWidget.h"
 
 #include <QEvent>
@@ -28,6 +29,7 @@ oVIXTitleBar::oVIXTitleBar(QMenuBar *menuBar, bool showMinimize, bool showMaximi
 {
     if (!menuBar)
         return;
+    AccessibleTitleBar::install();
     menuBar->setMouseTracking(true);
     menuBar->setStyleSheet(menuBarSheet());
     m_closeWidget = new oVIXMinMaxCloseWidget(showMinimize, showMaximize, showClose, menuBar);

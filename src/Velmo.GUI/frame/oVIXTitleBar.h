@@ -11,7 +11,7 @@ class oVIXMinMaxCloseWidget;
 ///
 /// The title bar reports what the user wants; the application changes the window and tells the buttons with
 /// `getCloseWidget()->setMaximized`. It is a child of the menu bar's parent, the window that it moves: the menu bar has
-/// to be in its window already.
+/// to be in its window already. Assistive tools are told a menu bar whose last child holds the window buttons.
 class VELMO_GUI_EXPORT oVIXTitleBar : public oVIXTitleBarFilter
 {
     Q_OBJECT
