@@ -134,6 +134,19 @@ private slots:
         QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&strip);
         QCOMPARE(interface->role(), QAccessible::ProgressBar);
         QCOMPARE(interface->valueInterface()->currentValue().toInt(), 90);
+
+        oVIXProgressBar bar;
+        bar.setRange(10, 60);
+        QSignalSpy picked(&bar, &oVIXProgressBar::valuePicked);
+        interface = QAccessible::queryAccessibleInterface(&bar);
+        QAccessibleValueInterface *value = interface->valueInterface();
+        QCOMPARE(value->currentValue().toInt(), 10); // nothing is done yet
+        for (const double asked : {9.0, 61.0, qQNaN(), 30.0})
+            value->setCurrentValue(asked);
+        bar.setClickable(false);
+        value->setCurrentValue(40);
+        QVERIFY(interface->state().readOnly);
+        QVERIFY(picked.size() == 1 && bar.getSelectedValue() == 30);
     }
 };
 

@@ -391,6 +391,14 @@ private slots:
         QCOMPARE(accessible->role(), QAccessible::Slider);
         QCOMPARE(accessible->text(QAccessible::Name), u"Spacing"_s);
         QCOMPARE(accessible->text(QAccessible::Value), u"2.50 m"_s);
+        auto *bar = slider->findChild<oVIXSliderBar *>();
+        for (const QString &name : {u"Spacing"_s, u"Distance"_s}) { // its parts are called as it is
+            slider->setAccessibleName(name);
+            QShowEvent shows;
+            QCoreApplication::sendEvent(slider.get(), &shows);
+            QCOMPARE(slider->findChild<QSpinBox *>()->accessibleName(), name);
+            QCOMPARE(QAccessible::queryAccessibleInterface(bar)->text(QAccessible::Name), name);
+        }
         QAccessibleValueInterface *value = accessible->valueInterface();
         QCOMPARE(value->currentValue(), QVariant(2.5));
         QCOMPARE(value->minimumValue(), QVariant(-1.0));

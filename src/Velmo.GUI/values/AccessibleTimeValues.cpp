@@ -3,11 +3,12 @@
 #include "foundation/AccessibleWidgets.h"
 #include "values/OvixMovableLabel.h"
 #include "values/oVIXFloatingProgressBar.h"
+#include "values/oVIXProgressBar.h"
 
 #include <QAccessibleWidget>
 #include <QPointer>
 
-namespace {
+#include <algorithm>
 
 /// A value that counts from 0 in steps of 1.
 class AccessibleCount : public QAccessibleWidget, public QAccessibleValueInterface
@@ -30,6 +31,8 @@ public:
     QVariant minimumValue() const override { return 0; }
     QVariant minimumStepSize() const override { return 1; }
 };
+
+namespace {
 
 class AccessibleMarker : public AccessibleCount
 {
@@ -69,11 +72,40 @@ public:
 
 } // namespace
 
+/// Setting its value picks one, as a click does.
+class AccessiblePickingBar : public AccessibleCount
+{
+public:
+    explicit AccessiblePickingBar(QWidget *widget) : AccessibleCount(widget, QAccessible::ProgressBar) { }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = AccessibleCount::state();
+        state.readOnly = !bar()->isClickable();
+        return state;
+    }
+
+    /// What is done; that is below the minimum before there is anything.
+    QVariant currentValue() const override { return std::max(bar()->value(), bar()->minimum()); }
+    QVariant minimumValue() const override { return bar()->minimum(); }
+    QVariant maximumValue() const override { return bar()->maximum(); }
+    void setCurrentValue(const QVariant &value) override
+    {
+        const double number = value.toDouble();
+        if (bar()->isEnabled() && number >= bar()->minimum() && number <= bar()->maximum())
+            bar()->pick(int(number));
+    }
+
+private:
+    oVIXProgressBar *bar() const { return static_cast<oVIXProgressBar *>(widget()); }
+};
+
 void AccessibleTimeValues::install()
 {
     static const bool filled = [] {
         AccessibleWidgets::add<AccessibleMarker>("OvixMovableLabel");
         AccessibleWidgets::add<AccessibleFloatingBar>("oVIXFloatingProgressBar");
+        AccessibleWidgets::add<AccessiblePickingBar>("oVIXProgressBar");
         return true;
     }();
     Q_UNUSED(filled)

@@ -2,7 +2,8 @@
 
 class QWidget;
 
-/// Markers and floating progress bars as assistive tools see them: values in a range.
+/// Markers and progress bars as assistive tools see them: values in a range. Setting the value of a marker moves it as
+/// if it were typed, that of a progress bar which can be clicked picks it.
 namespace AccessibleTimeValues {
 
 void install();

@@ -14,7 +14,7 @@ struct MarkerScale;
 /// Return or leaving the editor takes it over, Escape gives it up. Positions are the x of the marker's left edge in the
 /// parent, in logical pixels. A pixel may stand for many values: what `getValue` answers is that of the pixel and may
 /// lie below the value that was set, but a value that was set comes back whenever the way changes, until the marker is
-/// moved by other means.
+/// moved by other means. Assistive tools see a slider, and set its value as if it were typed.
 ///
 /// A drag emits `moved` at each step and `released` at its end, also when the marker is hidden or disabled meanwhile;
 /// an edit emits `editingStarted` and `editingFinished`, each once, and between its two clicks `released` as well. The

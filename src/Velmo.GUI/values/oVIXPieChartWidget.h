@@ -29,7 +29,8 @@ struct Arc;
 /// (float, read and written), `Qt::UserRole + 1` whether it is locked (bool). Its name is `Qt::AccessibleTextRole`,
 /// else the text of the vertical header, else "Slice" and its number. The model may change at any time; what it refuses
 /// to store stays as it is. A share that is not a number counts as 0. Shares that make less than a hundred percent
-/// leave a gap in the ring; those that make more, as the floor may, are shrunk to it.
+/// leave a gap in the ring; those that make more, as the floor may, are shrunk to it. Assistive tools see a chart of
+/// list items with name and share; pressing one selects the slice, toggling locks it.
 ///
 /// The widget may be deleted from its signals and from those of the model; while the user edits the box, with
 /// `deleteLater`.

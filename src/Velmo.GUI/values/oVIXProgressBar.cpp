@@ -1,5 +1,6 @@
 #include "values/oVIXProgressBar.h"
 
+#include "values/AccessibleTimeValues.h"
 #include "values/ProgressGeometry.h"
 
 #include <QMouseEvent>
@@ -30,6 +31,7 @@ oVIXProgressBar::oVIXProgressBar()
     // The base class asks for a paint only when its own look would change.
     connect(this, &QProgressBar::valueChanged, this, qOverload<>(&QWidget::update));
     initValues();
+    AccessibleTimeValues::install();
 }
 
 oVIXProgressBar::oVIXProgressBar(QWidget *parent) : oVIXProgressBar()
@@ -87,8 +89,13 @@ void oVIXProgressBar::paintEvent(QPaintEvent *)
 
 void oVIXProgressBar::mouseReleaseEvent(QMouseEvent *event)
 {
+    pick(pickedBarValue(event->position().x(), width(), maximum()));
+}
+
+void oVIXProgressBar::pick(int value)
+{
     if (!m_clickable)
         return;
-    m_selectedValue = pickedBarValue(event->position().x(), width(), maximum());
+    m_selectedValue = value;
     emit valuePicked();
 }

@@ -7,6 +7,8 @@
 /// A bar of four nested rounded bands: the track, what is done (the bar's value), a crop range in it, and the part of
 /// the crop that has been played. No text. A click picks a value.
 ///
+/// Assistive tools are told a progress bar whose value is what is done; setting it picks a value as a click does.
+///
 /// Bands are drawn for a minimum of 0. With a maximum of 0 only the track shows.
 class VELMO_GUI_EXPORT oVIXProgressBar : public QProgressBar
 {
@@ -44,6 +46,10 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    friend class AccessiblePickingBar;
+
+    void pick(int value);
+
     int m_selectedValue = 0;
     int m_cropStart = 0;
     int m_cropEnd = 0;

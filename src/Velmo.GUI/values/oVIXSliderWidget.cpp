@@ -270,9 +270,7 @@ void oVIXSliderWidget::setPrefix(const QString &prefix)
     m_prefix = prefix;
     m_ui->lbSlider->setText(prefix);
     m_ui->lateralSpinPrefix->setText(prefix);
-    const QList<QAbstractSpinBox *> boxes = editors();
-    for (QAbstractSpinBox *box : boxes)
-        box->setAccessibleName(prefix);
+    nameEditors();
 }
 
 QString oVIXSliderWidget::getPrefix() const
@@ -386,6 +384,12 @@ bool oVIXSliderWidget::eventFilter(QObject *watched, QEvent *event)
         return true;
     }
     return false;
+}
+
+void oVIXSliderWidget::showEvent(QShowEvent *event)
+{
+    nameEditors(); // nothing tells of a new accessible name
+    QAbstractSpinBox::showEvent(event);
 }
 
 void oVIXSliderWidget::resizeEvent(QResizeEvent *event)
@@ -564,6 +568,16 @@ QAbstractSpinBox *oVIXSliderWidget::valueEditor() const
     if (isLateral())
         return m_ui->lateralSpin;
     return isInteger() ? static_cast<QAbstractSpinBox *>(m_ui->spinMax) : m_ui->spinMaxDouble;
+}
+
+/// As the slider itself is called.
+void oVIXSliderWidget::nameEditors()
+{
+    const QString name = accessibleName().isEmpty() ? m_prefix : accessibleName();
+    const QList<QAbstractSpinBox *> boxes = editors();
+    for (QAbstractSpinBox *box : boxes)
+        box->setAccessibleName(name);
+    m_ui->lbSlider->setAccessibleName(name);
 }
 
 QList<QAbstractSpinBox *> oVIXSliderWidget::editors() const

@@ -27,6 +27,9 @@ class oVIXSliderWidget;
 /// drag rounds to whole numbers where snapping is on, else to hundredths from the minimum. In a range it moves the
 /// nearer handle. When an edit finishes, the lower end's boxes are limited to the upper end.
 ///
+/// Assistive tools are told a slider with the accessible name, else the tool tip, else the prefix; its boxes and its
+/// bar are called as it is.
+///
 /// Numbers given to a setter that are not numbers make it do nothing; infinite ones become the largest finite ones.
 /// The widget may be destroyed by any signal of a drag or a setter. While the user types or steps, a box has not ended
 /// its work when the signal comes: use `deleteLater`.
@@ -132,6 +135,7 @@ signals:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
@@ -160,6 +164,7 @@ private:
     void stepAndFinish(QAbstractSpinBox *box, bool up);
     QAbstractSpinBox *valueEditor() const;
     QList<QAbstractSpinBox *> editors() const;
+    void nameEditors();
 
     std::unique_ptr<Ui::oVIXSliderWidget> m_ui;
     QString m_prefix;
