@@ -1,4 +1,5 @@
 #include "support/Gestures.h"
+#include "support/Picture.h"
 #include "support/TestCase.h"
 
 #include "VelmoVersion.h"
@@ -10,6 +11,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QScopeGuard>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -57,6 +59,11 @@ private slots:
         Gestures::show(&dialog);
         QCOMPARE(texts(dialog),
                  QStringList({u"Credits: J\u00f6rg"_s, u"End-user terms: "_s, u"Third-party notices: J\u00f6rg"_s}));
+        auto *tabs = dialog.findChild<QTabBar *>();
+        const QPoint edge = tabs->tabRect(0).topLeft() + QPoint(20, 0);
+        QVERIFY(Picture::colourAt(tabs, edge) != QColor(116, 211, 252));
+        Gestures::focus(tabs);
+        QCOMPARE(Picture::colourAt(tabs, edge), QColor(116, 211, 252)); // where the keyboard is
         QCOMPARE(dialog.findChild<QLabel *>(u"versionLabel"_s)->text(),
                  u"Version "_s + VelmoVersion::current().toString());
         const QString date = dialog.findChild<QLabel *>(u"dateLabel"_s)->text().section(u' ', -1);

@@ -225,6 +225,24 @@ private slots:
         QCOMPARE(guideKeyOf(left, Qt::RightToLeft), GuideKey::Next);
     }
 
+    void showsWhereTheKeyboardIs()
+    {
+        Tour tour(2);
+        Gestures::show(&tour.window);
+        Gestures::focus(tour.overlay);
+        for (QAbstractButton *control : tour.overlay->findChildren<QAbstractButton *>()) {
+            const auto isRinged = [control] {
+                return Picture::colourAt(control, {control->width() / 2, 0}) == QColor(116, 211, 252);
+            };
+            if (!control->isVisible())
+                continue;
+            control->setFocus();
+            QVERIFY2(isRinged(), qPrintable(control->objectName()));
+            control->clearFocus();
+            QVERIFY2(!isRinged(), qPrintable(control->objectName()));
+        }
+    }
+
     void mayBeDeletedByItsListeners()
     {
         for (const auto key : {Qt::Key_Escape, Qt::Key_Right}) {

@@ -1,6 +1,7 @@
 #include "messages/VelmoAboutDialog.h"
 
 #include "VelmoVersion.h"
+#include "foundation/FocusRing.h"
 
 #include "ui_VelmoAboutDialog.h"
 
@@ -8,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QStringDecoder>
+#include <QTabBar>
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
@@ -68,6 +70,8 @@ VelmoAboutDialog::VelmoAboutDialog(QWidget *parent, const QString &folder)
     m_ui->versionLabel->setStyleSheet(factSheet());
     m_ui->dateLabel->setText(tr("Built on %1").arg(QStringLiteral(VELMO_BUILD_DATE)));
     m_ui->dateLabel->setStyleSheet(factSheet());
+
+    new FocusRing(m_ui->tabs->tabBar());
 
     const QDir help((folder.isEmpty() ? QCoreApplication::applicationDirPath() : folder) + u"/help"_s);
     showPage(m_ui->creditsBrowser, help.filePath(u"about_credits.html"_s));

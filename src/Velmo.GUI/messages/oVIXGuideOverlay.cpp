@@ -1,6 +1,7 @@
 #include "messages/oVIXGuideOverlay.h"
 
 #include "foundation/AccessibleWidgets.h"
+#include "foundation/FocusRing.h"
 #include "foundation/VelmoPalette.h"
 #include "frame/NativeWindowApi.h"
 #include "messages/GuideRules.h"
@@ -21,6 +22,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int transitionLength = 1000; // ms
+constexpr qreal roundButtonRadius = 13.0;
 
 QString backSheet()
 {
@@ -122,8 +124,11 @@ oVIXGuideOverlay::oVIXGuideOverlay(QWidget *parent) : QWidget(parent), m_ui(new 
     connect(m_ui->backButton, &QPushButton::clicked, this, &oVIXGuideOverlay::onBackClicked);
     connect(m_ui->skipButton, &QPushButton::clicked, this, &oVIXGuideOverlay::onSkipClicked);
     // The buttons would take the arrow keys for themselves.
-    for (QAbstractButton *control : findChildren<QAbstractButton *>())
+    for (QAbstractButton *control : findChildren<QAbstractButton *>()) {
         control->installEventFilter(this);
+        const bool isRound = control == m_ui->backButton || control == m_ui->nextButton;
+        new FocusRing(control, isRound ? roundButtonRadius : FocusRing::usualRadius);
+    }
     setFocusProxy(m_ui->nextButton);
     updateStepInfo();
     follow(parent);
