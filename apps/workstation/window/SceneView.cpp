@@ -1,6 +1,7 @@
 #include "window/SceneView.h"
 
 #include "look/Palette.h"
+#include "window/AccessibleSceneView.h"
 #include "window/MoverAt.h"
 
 #include <QApplication>
@@ -19,6 +20,7 @@ constexpr double zoomOfWheelStep = 1.25;
 
 SceneView::SceneView(QWidget *parent) : QWidget(parent)
 {
+    AccessibleSceneView::install();
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     showPointer(VelmoCursor::OpenHand);
@@ -125,7 +127,17 @@ void SceneView::mouseReleaseEvent(QMouseEvent *event)
     showPointerAt(event->position());
     if (m_isDragging)
         return;
-    const SceneMover *mover = moverUnder(m_pressed);
+    pickAt(m_pressed);
+}
+
+void SceneView::pickInTheMiddle()
+{
+    pickAt(QRectF(rect()).center());
+}
+
+void SceneView::pickAt(QPointF point)
+{
+    const SceneMover *mover = moverUnder(point);
     emit moverPicked(mover ? mover->type : QString());
 }
 

@@ -31,6 +31,9 @@ public:
     void setOptions(const ViewOptions &options);
     const ViewOptions &options() const;
 
+    /// As a click in the middle of the view does, for assistive tools.
+    void pickInTheMiddle();
+
 signals:
     /// The user has zoomed.
     void zoomChanged(double zoom);
@@ -47,6 +50,7 @@ protected:
 private:
     /// From metres to logical pixels.
     QTransform sceneToView() const;
+    void pickAt(QPointF point);
     const SceneMover *moverUnder(QPointF point) const;
     void showPointer(VelmoCursor::Shape shape);
     void showPointerAt(QPointF point);
