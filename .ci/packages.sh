@@ -10,6 +10,8 @@ build_packages=(
 )
 # The Windows services are cross-compiled and run under Wine; gestures on real windows want a window manager.
 test_packages=(g++-mingw-w64-x86-64-posix wine64 xvfb xauth openbox xdotool)
+# The application is used through the accessibility bus.
+test_packages+=(at-spi2-core dbus-daemon gir1.2-atspi-2.0 python3-gi)
 bench_packages=(python3)
 # Fuzzing is clang's; what its programs are linked with comes separately. The documentation is doxygen's.
 check_packages=(clang-format clang-tidy clang libclang-rt-dev doxygen)

@@ -87,3 +87,33 @@ function(velmo_desktop_test name)
     # A user's patience is part of some of them.
     set_tests_properties(desktop.${name} PROPERTIES LABELS desktop RUN_SERIAL ON)
 endfunction()
+
+find_program(VELMO_DBUS_RUN_SESSION NAMES dbus-run-session)
+find_program(VELMO_AT_SPI_REGISTRY NAMES at-spi2-registryd PATHS /usr/libexec)
+find_program(VELMO_SYSTEM_PYTHON NAMES python3 PATHS /usr/bin NO_DEFAULT_PATH)
+if(VELMO_SYSTEM_PYTHON AND NOT VELMO_AT_SPI_BINDINGS)
+    # The system's own, which its bindings are installed for.
+    execute_process(COMMAND ${VELMO_SYSTEM_PYTHON} -c "import gi; gi.require_version('Atspi', '2.0')"
+        RESULT_VARIABLE missing OUTPUT_QUIET ERROR_QUIET)
+    if(NOT missing)
+        set(VELMO_AT_SPI_BINDINGS ON CACHE INTERNAL "Python can use the accessibility bus")
+    endif()
+endif()
+
+# velmo_assistive_test(<name> <target>)
+#
+# A Python program tests/accessibility/<name>.py that uses the running program of <target> as assistive tools do, on a
+# display and buses of their own.
+function(velmo_assistive_test name target)
+    velmo_tests_wanted(wanted VELMO_DESKTOP_TESTS VELMO_XVFB VELMO_OPENBOX VELMO_DBUS_RUN_SESSION VELMO_AT_SPI_REGISTRY
+        VELMO_SYSTEM_PYTHON VELMO_AT_SPI_BINDINGS)
+    if(NOT wanted)
+        return()
+    endif()
+    set(test accessibility.${name})
+    add_test(NAME ${test}
+        COMMAND "${CMAKE_CURRENT_SOURCE_DIR}/desktop/run-on-desktop.sh" ${VELMO_DBUS_RUN_SESSION} --
+            ${VELMO_SYSTEM_PYTHON} -B "${CMAKE_CURRENT_SOURCE_DIR}/accessibility/${name}.py" $<TARGET_FILE:${target}>)
+    velmo_test_environment(${test})
+    set_tests_properties(${test} PROPERTIES LABELS accessibility)
+endfunction()
