@@ -122,6 +122,9 @@ QString faultOf(QAccessibleInterface *accessible, Answer answer)
         for (QAccessibleInterface *part : partsOf(accessible)) {
             if (!part)
                 return u"has a part that is none"_s;
+            const auto *widget = qobject_cast<QWidget *>(part->object());
+            if (widget && answerOf(widget) != Answer::None)
+                continue; // looked at by itself
             if (part->role() != QAccessible::Client && (!isNamed(part) || !canBePressed(part)))
                 return u"has a part without a name or a press: "_s + part->text(QAccessible::Name);
         }
@@ -228,6 +231,8 @@ private slots:
     void isUsedByAssistiveToolsInTheGallery()
     {
         QFETCH(int, page);
+        if (GalleryPages::all()[page].id == "consent"_L1)
+            ignoreSheetOfOptions(3);
         const std::unique_ptr<QWidget> widget(GalleryPages::all()[page].create());
         Gestures::show(widget.get());
         QVERIFY(Events::untilIdle());

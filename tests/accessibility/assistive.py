@@ -114,6 +114,10 @@ class Node:
     def find_none(self, role, name=None):
         wait(f'no {role} "{name}"', lambda: not self.search(role, name))
 
+    def texts(self, name):
+        """All that show with this name and can be read."""
+        return [node for node in self.shown() if node.name == name and node.offers("Text")]
+
     def faults(self):
         """What cannot be used, or of which nobody could tell what it is."""
         return [f"{node}: {fault}" for node in self.shown() if node.has("SENSITIVE") and (fault := fault_of(node))]

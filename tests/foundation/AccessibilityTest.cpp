@@ -85,6 +85,7 @@ private slots:
         QVERIFY(!Assistive::act(&button));
         button.setEnabled(true);
         button.setIgnoreSingleClick(true);
+        QCOMPARE(Assistive::of(&button)->role(), QAccessible::Graphic);
         QVERIFY(!Assistive::act(&button));
         QCOMPARE(clicked.size(), 1);
 

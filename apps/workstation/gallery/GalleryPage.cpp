@@ -2,6 +2,7 @@
 
 #include "VelmoColor.h"
 
+#include <QAccessible>
 #include <QGridLayout>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -26,12 +27,42 @@ QString textSheet(int pixels, int weight, const QString &colour)
         QString::number(pixels), QString::number(weight), colour);
 }
 
+/// Whether assistive tools ask for a name of what has this role.
+bool isUsed(QAccessible::Role role)
+{
+    switch (role) {
+    case QAccessible::Button:
+    case QAccessible::Chart:
+    case QAccessible::ComboBox:
+    case QAccessible::EditableText:
+    case QAccessible::List:
+    case QAccessible::ProgressBar:
+    case QAccessible::Slider:
+    case QAccessible::SpinBox:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Gives what is used in a sample these words for a name, where it has none of its own.
+void nameSample(QWidget *sample, const QString &words)
+{
+    const QList<QWidget *> widgets = QList<QWidget *>{sample} + sample->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+        if (accessible && isUsed(accessible->role()) && accessible->text(QAccessible::Name).isEmpty())
+            widget->setAccessibleName(words);
+    }
+}
+
 } // namespace
 
 SampleSection::SampleSection(const QString &title, const QString &note, QWidget *parent)
     : QWidget(parent), m_layout(new QVBoxLayout(this))
 {
     setObjectName(u"panel"_s);
+    setAccessibleName(title);
     setAttribute(Qt::WA_StyledBackground);
     m_layout->setContentsMargins(16, 12, 16, 16);
     m_layout->setSpacing(12);
@@ -52,6 +83,7 @@ void SampleSection::addRow(const QList<Sample> &samples)
     int column = 0;
     for (const Sample &sample : samples) {
         grid->addWidget(sample.widget, 0, column, Qt::AlignCenter);
+        nameSample(sample.widget, sample.caption.isEmpty() ? accessibleName() : sample.caption);
         if (!sample.caption.isEmpty())
             grid->addWidget(createCaption(sample.caption), 1, column);
         ++column;
@@ -63,6 +95,7 @@ void SampleSection::addRow(const QList<Sample> &samples)
 void SampleSection::addWide(QWidget *widget)
 {
     m_layout->addWidget(widget);
+    nameSample(widget, accessibleName());
 }
 
 GalleryPage::GalleryPage(const QString &title, QWidget *parent) : QWidget(parent), m_layout(new QVBoxLayout(this))

@@ -57,6 +57,7 @@ VelmoSceneItem::VelmoSceneItem(QListWidgetItem *item, QWidget *parent)
         {m_ui->versionLabel, {}},
     }};
     m_ui->nameEdit->hide();
+    m_ui->nameEdit->setAccessibleName(tr("Scene name"));
     m_ui->nameEdit->setMaxLength(std::numeric_limits<int>::max()); // a shortened name would count as another one
     m_ui->nameEdit->installEventFilter(this);
     m_ui->addButton->setPixmap(toggleBeforeFirstPaint());

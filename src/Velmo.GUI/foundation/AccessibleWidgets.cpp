@@ -64,6 +64,12 @@ class AccessibleIconButton : public AccessibleCheckable<OvixSvgButton>
 public:
     using AccessibleCheckable::AccessibleCheckable;
 
+    /// One that leaves single clicks to its parent is looked at, not pressed.
+    QAccessible::Role role() const override
+    {
+        return button()->ignoresSingleClick() ? QAccessible::Graphic : AccessibleCheckable::role();
+    }
+
 protected:
     QString purpose() const override { return wordsOf(button()->firstFilename()); }
     bool isPressable() const override { return button()->isEnabled() && !button()->ignoresSingleClick(); }

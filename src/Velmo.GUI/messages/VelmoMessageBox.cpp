@@ -108,6 +108,8 @@ VelmoMessageWidget::VelmoMessageWidget(const QString &kind, const QString &title
     m_ui->widgetYesNoButtons->enableKeyboardShorcuts();
     setupTitle(kind, title);
     setAccessibleName(kind + u": "_s + title);
+    m_ui->textBrowser->setAccessibleName(title);
+    m_ui->lnEdit->setAccessibleName(title);
 }
 
 VelmoMessageWidget::~VelmoMessageWidget() = default;

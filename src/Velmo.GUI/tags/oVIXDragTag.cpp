@@ -148,6 +148,7 @@ void oVIXDragTag::addClickArea()
     }
     area->setAccessibleName(tr("Add"));
     m_line = new oVIXAutoHideLine(this, m_background, m_textColor);
+    m_line->setAccessibleName(tr("New tag"));
     m_line->resize(m_line->width(), height());
     connect(area, &QClickableLabel::clicked, this, &oVIXDragTag::fnAddClicked);
     connect(m_line, &QLineEdit::returnPressed, this, &oVIXDragTag::fnAddNewTag);
