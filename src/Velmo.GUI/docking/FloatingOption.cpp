@@ -1,5 +1,6 @@
 #include "docking/FloatingOption.h"
 
+#include "foundation/InterFont.h"
 #include "foundation/KeyboardPress.h"
 #include "foundation/OvixSvgKey.h"
 #include "foundation/OvixSvgRenderer.h"
@@ -17,6 +18,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int lineHeight = 24;
+constexpr int optionPixels = 11;
 constexpr int widest = 300;
 constexpr int markSide = 12;
 constexpr int markLeft = 8;
@@ -33,10 +35,8 @@ const QColor disabledColour(81, 81, 81);
 FloatingOption::FloatingOption(const QString &label, QWidget *parent)
     : QAbstractButton(parent), m_label(ShownText::oneLine(label))
 {
-    QFont font(u"Inter"_s);
-    font.setPixelSize(11);
-    setFont(font);
-    setText(QString(label).replace(u'&', u"&&"_s)); // for assistive tools; no letter of it is a shortcut
+    setFont(interFont(optionPixels));
+    setText(ShownText::withoutMnemonics(label)); // for assistive tools
     setCheckable(true);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);

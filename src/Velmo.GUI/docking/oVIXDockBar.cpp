@@ -3,6 +3,7 @@
 #include "choosers/QMultiCompleterLineEdit.h"
 #include "docking/DockBarView.h"
 #include "docking/oVIXCloseDetachWidget.h"
+#include "foundation/InterFont.h"
 #include "foundation/OvixSvgButton.h"
 #include "frame/TitleText.h"
 
@@ -214,9 +215,7 @@ void oVIXDockBar::createSearch()
     m_searchContainer->setStyleSheet(clearBackground());
 
     m_searchEdit = new QMultiCompleterLineEdit(m_searchContainer);
-    QFont font(u"Inter"_s);
-    font.setPixelSize(searchPixels);
-    m_searchEdit->setFont(font);
+    m_searchEdit->setFont(interFont(searchPixels));
     m_searchEdit->setStyleSheet(searchSheet());
     m_searchEdit->setPlaceholderText(tr("Search..."));
     m_searchEdit->setAccessibleName(tr("Search"));

@@ -3,7 +3,7 @@
 #include <QChar>
 #include <QString>
 
-/// What is measured and painted of a text that may be of any length.
+/// How a text from outside is shown, whatever its length and letters.
 namespace ShownText {
 
 /// More characters than any line has room for.
@@ -23,6 +23,12 @@ inline QString oneLine(const QString &text)
             character = QLatin1Char(' ');
     }
     return line;
+}
+
+/// The text as menus and buttons have to be told it: none of its letters is a shortcut.
+inline QString withoutMnemonics(QString text)
+{
+    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
 } // namespace ShownText

@@ -1,11 +1,14 @@
 #include "foundation/VelmoStyle.h"
 
-#include <QFont>
+#include "foundation/InterFont.h"
+
 #include <QFontMetrics>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int dockTextPixels = 11;
 
 QString centredPicture(const QString &image)
 {
@@ -35,9 +38,7 @@ QString VelmoStyle::labelGrayStyleAndImage(QString image)
 
 int VelmoStyle::styleDockTextWidth(QString text)
 {
-    QFont font(u"Inter"_s);
-    font.setPixelSize(11);
-    return QFontMetrics(font).horizontalAdvance(text);
+    return QFontMetrics(interFont(dockTextPixels)).horizontalAdvance(text);
 }
 
 QString VelmoStyle::styleDragDropList(bool roundLeft, bool roundRight)

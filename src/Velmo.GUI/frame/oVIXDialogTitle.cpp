@@ -1,5 +1,6 @@
 #include "frame/oVIXDialogTitle.h"
 
+#include "foundation/InterFont.h"
 #include "foundation/OvixSvgButton.h"
 #include "frame/TitleLabel.h"
 
@@ -13,6 +14,9 @@ namespace {
 constexpr int titleHeight = 30;
 constexpr int closeSide = 32;
 constexpr int titleCloseMargin = 4;
+constexpr int titleIndent = 15;
+constexpr int titlePixels = 10;
+constexpr int smallestGap = 10; // between title and button
 
 QString titleSheet()
 {
@@ -37,10 +41,10 @@ oVIXDialogTitle::oVIXDialogTitle(QWidget *parent)
     connect(m_closeButton, &OvixSvgButton::clicked, this, &oVIXDialogTitle::closeClicked);
 
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(15, 0, 0, 0);
+    row->setContentsMargins(titleIndent, 0, 0, 0);
     row->setSpacing(0);
     row->addWidget(m_titleLabel);
-    row->addItem(new QSpacerItem(10, 10, QSizePolicy::Expanding, QSizePolicy::Fixed));
+    row->addItem(new QSpacerItem(smallestGap, smallestGap, QSizePolicy::Expanding, QSizePolicy::Fixed));
     row->addWidget(m_closeButton);
 
     setFixedHeight(titleHeight);
@@ -51,9 +55,7 @@ oVIXDialogTitle::~oVIXDialogTitle() = default;
 
 void oVIXDialogTitle::setTitle(QString title, QString subtitle)
 {
-    QFont font(u"Inter"_s);
-    font.setPixelSize(10);
-    m_titleLabel->setFont(font);
+    m_titleLabel->setFont(interFont(titlePixels));
     m_titleLabel->setTitle(title, subtitle);
 }
 

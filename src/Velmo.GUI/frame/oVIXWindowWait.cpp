@@ -1,5 +1,6 @@
 #include "frame/oVIXWindowWait.h"
 
+#include "foundation/InterFont.h"
 #include "foundation/OvixSvgKey.h"
 #include "foundation/OvixSvgRenderer.h"
 #include "frame/UserAbort.h"
@@ -46,9 +47,7 @@ QRect percentBand(const QRect &pane)
 
 QFont lineFont()
 {
-    QFont font(u"Inter"_s);
-    font.setPixelSize(fontPixelSize);
-    return font;
+    return interFont(fontPixelSize);
 }
 
 /// What a line covers of its band, with room for letters that lean out.

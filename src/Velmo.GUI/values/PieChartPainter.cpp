@@ -1,5 +1,7 @@
 #include "values/PieChartPainter.h"
 
+#include "foundation/InterFont.h"
+
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
@@ -56,11 +58,6 @@ double radians(double angle)
     return qDegreesToRadians(angle / 16 - 180);
 }
 
-double degreesOf(double radians)
-{
-    return radians * 180 / M_PI;
-}
-
 double middleAngle(const Arc &arc)
 {
     return PieRing::startAngle(arc) + arc.span / 2.0;
@@ -87,10 +84,10 @@ QPainterPath sector(double angle, double span, double from, double to, double si
         return path;
     }
     const auto square = [](double radius) { return QRectF(-radius, -radius, 2 * radius, 2 * radius); };
-    const double start = -degreesOf(radians(angle));
+    const double start = -qRadiansToDegrees(radians(angle));
     const double extent = span / 16;
-    const double outerGap = degreesOf(std::asin(sideGap / 2 / to));
-    const double innerGap = degreesOf(std::asin(sideGap / 2 / from));
+    const double outerGap = qRadiansToDegrees(std::asin(sideGap / 2 / to));
+    const double innerGap = qRadiansToDegrees(std::asin(sideGap / 2 / from));
     path.arcMoveTo(square(to), start - outerGap);
     path.arcTo(square(to), start - outerGap, -(extent - 2 * outerGap));
     path.arcTo(square(from), start - extent + innerGap, extent - 2 * innerGap);
@@ -117,12 +114,9 @@ QPainterPath lockMark()
 class Painting
 {
 public:
-    Painting(QPainter &painter, const PieChartLook &look) : m_painter(painter), m_look(look)
+    Painting(QPainter &painter, const PieChartLook &look)
+        : m_painter(painter), m_look(look), m_font(interFont(fontPixels)), m_narrowFont(interFont(narrowFontPixels))
     {
-        m_font = QFont(u"Inter"_s);
-        m_font.setPixelSize(fontPixels);
-        m_narrowFont = m_font;
-        m_narrowFont.setPixelSize(narrowFontPixels);
         m_centre = QPoint(look.area.width() / 2, look.area.height() / 2);
         m_area = QRectF(look.area).translated(-m_centre);
     }
@@ -218,7 +212,7 @@ private:
         const QRectF roomy = box.adjusted(-textMargin, -textMargin, textMargin, textMargin);
         const auto isInside = [&](const QPointF &corner) {
             const double distance = std::hypot(corner.x(), corner.y());
-            const double angle = (degreesOf(std::atan2(corner.y(), corner.x())) + 180) * 16;
+            const double angle = (qRadiansToDegrees(std::atan2(corner.y(), corner.x())) + 180) * 16;
             return distance >= inner && distance <= outer
                 && PieRing::wrapped(int(angle) - PieRing::startAngle(arc)) < arc.span;
         };
