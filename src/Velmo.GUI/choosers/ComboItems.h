@@ -37,9 +37,3 @@ struct ComboItems
         return index >= 0 ? index : int(texts.indexOf(text));
     }
 };
-
-/// A line of text as a menu has to be told it to show it as it is, without mnemonics.
-inline QString menuText(QString line)
-{
-    return line.replace(QLatin1Char('&'), QLatin1String("&&"));
-}

@@ -2,6 +2,7 @@
 
 #include "choosers/AccessibleChoosers.h"
 #include "choosers/ComboItems.h"
+#include "choosers/ComboSheets.h"
 #include "foundation/AccessibleWidgets.h"
 #include "foundation/KeyboardPress.h"
 #include "foundation/SheetOnChange.h"
@@ -30,57 +31,6 @@ constexpr int yesNoChoiceWidth = 59;
 QString payloadFormat()
 {
     return u"application/x-velmodropdata"_s;
-}
-
-QString stripSheet()
-{
-    return u"#textWidget {"
-           "\tbackground:rgb(28,28,28);"
-           "\tborder-radius:4px;}"_s;
-}
-
-QString captionSheet(const QString &alignment)
-{
-    return u"QClickableLabel {"
-           "\tqproperty-alignment:%1;"
-           "\tcolor:rgb(156,156,156);"
-           "\tpadding-left:5px;"
-           "\tpadding-bottom:2px;"
-           "\tfont-size:11px;}"
-           "QClickableLabel:disabled {"
-           "\tcolor:rgb(105,105,105);}"_s.arg(alignment);
-}
-
-QString choiceSheet(const QString &alignment)
-{
-    return u"QClickableLabel {"
-           "\tqproperty-alignment:%1;"
-           "\tcolor:rgb(219,219,219);"
-           "\tpadding-left:2px;"
-           "\tpadding-right:10px;"
-           "\tpadding-bottom:2px;"
-           "\tfont-size:11px;}"
-           "QClickableLabel:disabled {"
-           "\tcolor:rgb(105,105,105);}"_s.arg(alignment);
-}
-
-QString menuSheet()
-{
-    return u"QMenu {"
-           "\tbackground-color:rgb(28,28,28);"
-           "   border: 1px solid rgb(59,59,59);"
-           "   border-radius: 2px;}"
-           "QMenu::item {"
-           "\theight: 16px;"
-           "\tmargin: 0px 0px 0px 0px;"
-           "\tpadding: 2px 10px 2px 10px;"
-           "\tbackground-color: transparent;"
-           "\tcolor:rgb(219,219,219);"
-           "\tfont-size:11px;"
-           "   border-radius: 2px;}"
-           "QMenu::item:selected {"
-           "\tcolor:rgb(255,255,255);"
-           "\tbackground-color:rgb(59,59,59);}"_s;
 }
 
 } // namespace
@@ -424,7 +374,7 @@ void oVIXCombo::showChoice(const QString &text)
 
 void oVIXCombo::fillMenu()
 {
-    m_menu->setStyleSheet(menuSheet());
+    m_menu->setStyleSheet(ComboSheets::menu());
     m_menu->ensurePolished(); // the font may be a sheet's
     const int width = this->width() - m_ui->comboLabel->x() - m_ui->openButton->width();
     if (width > 0)
@@ -441,7 +391,7 @@ void oVIXCombo::fillMenu()
         QString line = ShownText::oneLine(itemText(i));
         if (line.size() * metrics.maxWidth() > room) // or else it surely fits
             line = metrics.elidedText(line, Qt::ElideRight, room);
-        m_actions.insert(m_menu->addAction(menuText(line)), i);
+        m_actions.insert(m_menu->addAction(ShownText::withoutMnemonics(line)), i);
     }
 }
 
@@ -452,7 +402,7 @@ void oVIXCombo::updateStyle()
     const QString centre = u"'AlignVCenter | AlignCenter'"_s;
     const bool centred = alignment() & Qt::AlignHCenter;
     const bool rightwards = alignment() & Qt::AlignRight;
-    setSheetOnChange(m_ui->textWidget, stripSheet());
-    setSheetOnChange(m_ui->textLabel, captionSheet(centred ? centre : rightwards ? right : left));
-    setSheetOnChange(m_ui->comboLabel, choiceSheet(centred ? centre : rightwards ? left : right));
+    setSheetOnChange(m_ui->textWidget, ComboSheets::strip());
+    setSheetOnChange(m_ui->textLabel, ComboSheets::caption(centred ? centre : rightwards ? right : left));
+    setSheetOnChange(m_ui->comboLabel, ComboSheets::choice(centred ? centre : rightwards ? left : right));
 }
