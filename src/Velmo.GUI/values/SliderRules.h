@@ -13,6 +13,11 @@ namespace SliderRules {
 /// Differences up to this are none.
 inline constexpr double tolerance = 1e-6;
 
+inline double nearestFinite(double number)
+{
+    return std::clamp(number, std::numeric_limits<double>::lowest(), std::numeric_limits<double>::max());
+}
+
 inline float singlePrecision(double number)
 {
     constexpr auto largest = double(std::numeric_limits<float>::max());

@@ -4,8 +4,10 @@
 
 #include "foundation/SheetOnChange.h"
 #include "values/AccessibleSlider.h"
+#include "values/SliderEditors.h"
 #include "values/SliderRules.h"
 #include "values/SliderSheets.h"
+#include "values/WhileAlive.h"
 
 #include <QEvent>
 #include <QKeyEvent>
@@ -23,38 +25,9 @@ constexpr int rowHeight = 20;
 constexpr float keepMarker = -1.0F;
 constexpr float noLeftMarker = 0.0F;
 
-double nearestFinite(double number)
-{
-    return std::clamp(number, std::numeric_limits<double>::lowest(), std::numeric_limits<double>::max());
-}
-
 template <class... Numbers> bool areNumbers(Numbers... numbers)
 {
     return !(std::isnan(numbers) || ...);
-}
-
-/// One step after the other for as long as the object lives: each may emit a signal that ends it.
-template <class... Steps> void whileAlive(QObject *object, Steps... steps)
-{
-    const QPointer<QObject> alive(object);
-    static_cast<void>(((steps(), !alive.isNull()) && ...));
-}
-
-template <class Box, class Number> void setAll(Box *box, Number minimum, Number maximum, Number value, Number step)
-{
-    whileAlive(
-        box, [&] { box->setMinimum(minimum); }, [&] { box->setMaximum(maximum); }, [&] { box->setValue(value); },
-        [&] { box->setSingleStep(step); });
-}
-
-void setBox(QSpinBox *box, void (QSpinBox::*setter)(int), double number)
-{
-    (box->*setter)(saturatedInt(number));
-}
-
-void setBox(QDoubleSpinBox *box, void (QDoubleSpinBox::*setter)(double), double number)
-{
-    (box->*setter)(nearestFinite(number));
 }
 
 bool isReturn(const QKeyEvent *event)
@@ -71,6 +44,7 @@ oVIXSliderWidget::oVIXSliderWidget(QWidget *parent) : QAbstractSpinBox(parent), 
     setFrame(false);
     setButtonSymbols(QAbstractSpinBox::NoButtons);
     m_ui->setupUi(this);
+    m_editors = std::make_unique<SliderEditors>(*m_ui);
 
     m_ui->lbSlider->setStyleSheet(u"background-color:transparent;"_s);
     m_ui->spinMin->setStyleSheet(SliderSheets::editor(u"QSpinBox"_s, u"left"_s));
@@ -129,26 +103,29 @@ oVIXSliderWidget::~oVIXSliderWidget()
 void oVIXSliderWidget::changeMode(SLIDERMODE mode)
 {
     setFixedHeight(rowHeight);
-    m_mode = mode;
-    const bool integerBoxes = hasBar() && isInteger();
-    const bool doubleBoxes = hasBar() && !isInteger();
+    m_editors->setMode(mode);
+    const bool bar = m_editors->hasBar();
+    const bool range = m_editors->isRange();
+    const bool lateral = m_editors->isLateral();
+    const bool integerBoxes = bar && m_editors->isInteger();
+    const bool doubleBoxes = bar && !m_editors->isInteger();
     m_ui->spinMaxDoubleWidget->setVisible(doubleBoxes);
     m_ui->spinMaxWidget->setVisible(integerBoxes);
-    m_ui->spinMinWidget->setVisible(integerBoxes && isRange());
-    m_ui->spinMinDoubleWidget->setVisible(doubleBoxes && isRange());
-    m_ui->widgetMinControls->setVisible(isRange());
-    m_ui->widgetMaxControls->setVisible(hasBar());
-    m_ui->lbSlider->setVisible(hasBar());
-    m_ui->lateralSpinFrame->setVisible(isLateral());
-    m_ui->lbSub->setVisible(isLateral());
-    m_ui->lbAdd->setVisible(isLateral());
+    m_ui->spinMinWidget->setVisible(integerBoxes && range);
+    m_ui->spinMinDoubleWidget->setVisible(doubleBoxes && range);
+    m_ui->widgetMinControls->setVisible(range);
+    m_ui->widgetMaxControls->setVisible(bar);
+    m_ui->lbSlider->setVisible(bar);
+    m_ui->lateralSpinFrame->setVisible(lateral);
+    m_ui->lbSub->setVisible(lateral);
+    m_ui->lbAdd->setVisible(lateral);
     layout()->setContentsMargins(0, 0, 0, 0);
 
     m_snapToInteger = integerBoxes;
-    if (hasBar()) {
-        m_ui->lbSlider->setBorderLeft(!isRange());
+    if (bar) {
+        m_ui->lbSlider->setBorderLeft(!range);
         m_ui->lbSlider->setBorderRight(false);
-        m_ui->lbSlider->setRoundedLeft(!isRange());
+        m_ui->lbSlider->setRoundedLeft(!range);
         m_ui->lbSlider->setRoundedRight(false);
         // A single value leaves the left marker alone from now on, so the one of a range has to go first.
         m_ui->lbSlider->posMarkers(noLeftMarker, keepMarker);
@@ -161,17 +138,7 @@ void oVIXSliderWidget::setLimitsAndValues(double min, double max, double value, 
     if (!areNumbers(min, max, value, step))
         return;
     whileAlive(
-        this,
-        [&] {
-            setAll(m_ui->spinMaxDouble, nearestFinite(min), nearestFinite(max), nearestFinite(value),
-                   nearestFinite(step));
-        },
-        [&] {
-            setAll(m_ui->lateralSpin, nearestFinite(min), nearestFinite(max), nearestFinite(value),
-                   nearestFinite(step));
-        },
-        [&] { setAll(m_ui->spinMax, saturatedInt(min), saturatedInt(max), saturatedInt(value), saturatedInt(step)); },
-        [&] { setSliderEnd(max); });
+        this, [&] { m_editors->setValueAndLimits(min, max, value, step); }, [&] { setSliderEnd(max); });
 }
 
 void oVIXSliderWidget::setLimitsAndValuesMin(double min, double max, double value, double step)
@@ -179,13 +146,7 @@ void oVIXSliderWidget::setLimitsAndValuesMin(double min, double max, double valu
     if (!areNumbers(min, max, value, step))
         return;
     whileAlive(
-        this,
-        [&] {
-            setAll(m_ui->spinMinDouble, nearestFinite(min), nearestFinite(max), nearestFinite(value),
-                   nearestFinite(step));
-        },
-        [&] { setAll(m_ui->spinMin, saturatedInt(min), saturatedInt(max), saturatedInt(value), saturatedInt(step)); },
-        [&] { setSliderEnd(max); });
+        this, [&] { m_editors->setLowerEndAndLimits(min, max, value, step); }, [&] { setSliderEnd(max); });
 }
 
 void oVIXSliderWidget::setValue(double value)
@@ -194,13 +155,7 @@ void oVIXSliderWidget::setValue(double value)
         return;
     m_lastFinishedValue = value;
     whileAlive(
-        this, [&] { m_ui->spinMax->setValue(saturatedInt(value)); },
-        [&] { m_ui->spinMaxDouble->setValue(nearestFinite(value)); },
-        [&] {
-            if (isLateral())
-                m_ui->lateralSpin->setValue(nearestFinite(value));
-        },
-        [&] { updateSlider(); }, [&] { fnValueFinished(); });
+        this, [&] { m_editors->setValue(value); }, [this] { updateSlider(); }, [this] { fnValueFinished(); });
 }
 
 void oVIXSliderWidget::setValueMin(double value)
@@ -209,8 +164,7 @@ void oVIXSliderWidget::setValueMin(double value)
         return;
     m_lastFinishedMinimum = value;
     whileAlive(
-        this, [&] { m_ui->spinMinDouble->setValue(nearestFinite(value)); },
-        [&] { m_ui->spinMin->setValue(saturatedInt(value)); }, [&] { updateSlider(); }, [&] { fnValueFinished(); });
+        this, [&] { m_editors->setLowerEnd(value); }, [this] { updateSlider(); }, [this] { fnValueFinished(); });
 }
 
 void oVIXSliderWidget::setMinimum(double minimum)
@@ -218,11 +172,7 @@ void oVIXSliderWidget::setMinimum(double minimum)
     if (!areNumbers(minimum))
         return;
     whileAlive(
-        this, [&] { setBox(m_ui->spinMinDouble, &QDoubleSpinBox::setMinimum, minimum); },
-        [&] { setBox(m_ui->spinMin, &QSpinBox::setMinimum, minimum); },
-        [&] { setBox(m_ui->spinMaxDouble, &QDoubleSpinBox::setMinimum, minimum); },
-        [&] { setBox(m_ui->spinMax, &QSpinBox::setMinimum, minimum); },
-        [&] { setBox(m_ui->lateralSpin, &QDoubleSpinBox::setMinimum, minimum); }, [&] { updateSlider(); });
+        this, [&] { m_editors->setMinimum(minimum); }, [this] { updateSlider(); });
 }
 
 void oVIXSliderWidget::setMaximum(double maximum)
@@ -239,30 +189,19 @@ void oVIXSliderWidget::setSliderMaximum(double maximum)
 
 void oVIXSliderWidget::setSpinBoxMaximum(double maximum)
 {
-    if (!areNumbers(maximum))
-        return;
-    whileAlive(
-        this, [&] { setBox(m_ui->spinMinDouble, &QDoubleSpinBox::setMaximum, maximum); },
-        [&] { setBox(m_ui->spinMin, &QSpinBox::setMaximum, maximum); },
-        [&] { setBox(m_ui->spinMaxDouble, &QDoubleSpinBox::setMaximum, maximum); },
-        [&] { setBox(m_ui->spinMax, &QSpinBox::setMaximum, maximum); },
-        [&] { setBox(m_ui->lateralSpin, &QDoubleSpinBox::setMaximum, maximum); });
+    if (areNumbers(maximum))
+        m_editors->setMaximum(maximum);
 }
 
 void oVIXSliderWidget::setSingleStep(double step)
 {
-    if (!areNumbers(step))
-        return;
-    m_ui->spinMaxDouble->setSingleStep(nearestFinite(step));
-    m_ui->spinMax->setSingleStep(saturatedInt(step));
-    m_ui->lateralSpin->setSingleStep(nearestFinite(step));
+    if (areNumbers(step))
+        m_editors->setStep(step);
 }
 
 void oVIXSliderWidget::setDecimals(int decimals)
 {
-    whileAlive(
-        this, [&] { m_ui->spinMaxDouble->setDecimals(decimals); }, [&] { m_ui->spinMinDouble->setDecimals(decimals); },
-        [&] { m_ui->lateralSpin->setDecimals(decimals); });
+    m_editors->setDecimals(decimals);
 }
 
 void oVIXSliderWidget::setPrefix(const QString &prefix)
@@ -280,10 +219,7 @@ QString oVIXSliderWidget::getPrefix() const
 
 void oVIXSliderWidget::setSuffix(const QString &suffix)
 {
-    for (QSpinBox *box : {m_ui->spinMin, m_ui->spinMax})
-        box->setSuffix(suffix);
-    for (QDoubleSpinBox *box : {m_ui->spinMinDouble, m_ui->spinMaxDouble, m_ui->lateralSpin})
-        box->setSuffix(suffix);
+    m_editors->setSuffix(suffix);
 }
 
 void oVIXSliderWidget::setSnapToInteger(bool snap)
@@ -299,32 +235,22 @@ void oVIXSliderWidget::setColorNoSliderMode(const QString &colour)
 
 double oVIXSliderWidget::value() const
 {
-    if (isLateral())
-        return m_ui->lateralSpin->value();
-    if (!hasBar())
-        return 0.0;
-    return isInteger() ? m_ui->spinMax->value() : m_ui->spinMaxDouble->value();
+    return m_editors->value();
 }
 
 double oVIXSliderWidget::valueMin() const
 {
-    if (!isRange())
-        return 0.0;
-    return isInteger() ? m_ui->spinMin->value() : m_ui->spinMinDouble->value();
+    return m_editors->lowerEnd();
 }
 
 double oVIXSliderWidget::minimum() const
 {
-    if (isLateral())
-        return m_ui->lateralSpin->minimum();
-    return isInteger() ? m_ui->spinMax->minimum() : m_ui->spinMaxDouble->minimum();
+    return m_editors->minimum();
 }
 
 double oVIXSliderWidget::spinBoxMaximum() const
 {
-    if (isLateral())
-        return m_ui->lateralSpin->maximum();
-    return isInteger() ? m_ui->spinMax->maximum() : m_ui->spinMaxDouble->maximum();
+    return m_editors->maximum();
 }
 
 double oVIXSliderWidget::sliderMaximum() const
@@ -340,9 +266,9 @@ bool oVIXSliderWidget::hasFocus() const
 
 void oVIXSliderWidget::updateSlider()
 {
-    if (!hasBar())
+    if (!m_editors->hasBar())
         return;
-    const float left = isRange() ? SliderRules::singlePrecision(ratioOfMinimum()) : keepMarker;
+    const float left = m_editors->isRange() ? SliderRules::singlePrecision(ratioOfMinimum()) : keepMarker;
     m_ui->lbSlider->posMarkers(left, SliderRules::singlePrecision(ratioOfValue()));
 }
 
@@ -411,23 +337,16 @@ void oVIXSliderWidget::wheelEvent(QWheelEvent *event)
 
 void oVIXSliderWidget::fnSliderMoved(double ratio)
 {
-    if (!hasBar())
+    if (!m_editors->hasBar())
         return;
     ratio = snapRatio(ratio);
-    const double reference = isInteger() ? m_ui->spinMax->minimum() : m_ui->spinMaxDouble->minimum();
-    const double value = SliderRules::valueAt(ratio, reference, m_sliderMaximum);
-    const bool atItsLowest = isInteger()
-        ? SliderRules::isAtLimit(m_ui->spinMax->value(), m_ui->spinMax->minimum())
-        : SliderRules::isAtLimit(m_ui->spinMaxDouble->value(), m_ui->spinMaxDouble->minimum());
-    const bool maximum = !isRange() || SliderRules::movesMaximum(ratio, ratioOfMinimum(), ratioOfValue(), atItsLowest);
-
-    const QPointer<oVIXSliderWidget> alive(this);
-    if (isInteger())
-        setBox(maximum ? m_ui->spinMax : m_ui->spinMin, &QSpinBox::setValue, value);
-    else
-        setBox(maximum ? m_ui->spinMaxDouble : m_ui->spinMinDouble, &QDoubleSpinBox::setValue, value);
-    if (alive)
-        updateSlider();
+    const double lowest = m_editors->minimum();
+    const bool upperEnd = !m_editors->isRange()
+        || SliderRules::movesMaximum(ratio, ratioOfMinimum(), ratioOfValue(),
+                                     SliderRules::isAtLimit(m_editors->value(), lowest));
+    whileAlive(
+        this, [&] { m_editors->dragTo(SliderRules::valueAt(ratio, lowest, m_sliderMaximum), upperEnd); },
+        [this] { updateSlider(); });
 }
 
 void oVIXSliderWidget::fnSpinboxValueChanged()
@@ -500,59 +419,29 @@ void oVIXSliderWidget::fnValueFinished()
         this, [this] { updateMinLimits(); }, [this] { emit valueFinished(); });
 }
 
-bool oVIXSliderWidget::isRange() const
-{
-    return m_mode == IntegerRange || m_mode == DoubleRange;
-}
-
-bool oVIXSliderWidget::isInteger() const
-{
-    return m_mode == IntegerRange || m_mode == SingleInteger;
-}
-
-bool oVIXSliderWidget::isLateral() const
-{
-    return m_mode == Lateral || m_mode == LateralPlain;
-}
-
-bool oVIXSliderWidget::hasBar() const
-{
-    return isInteger() || m_mode == DoubleRange || m_mode == SingleDouble;
-}
-
-/// Both ends of a range are placed by the lower limit of the minimum's box.
-double oVIXSliderWidget::lowerLimit() const
-{
-    if (isRange())
-        return isInteger() ? m_ui->spinMin->minimum() : m_ui->spinMinDouble->minimum();
-    return isInteger() ? m_ui->spinMax->minimum() : m_ui->spinMaxDouble->minimum();
-}
-
 double oVIXSliderWidget::snapRatio(double ratio) const
 {
-    return SliderRules::snappedRatio(ratio, lowerLimit(), m_sliderMaximum, m_snapToInteger);
+    return SliderRules::snappedRatio(ratio, m_editors->lowerLimit(), m_sliderMaximum, m_snapToInteger);
 }
 
 double oVIXSliderWidget::ratioOfMinimum() const
 {
-    return SliderRules::ratioOf(valueMin(), lowerLimit(), m_sliderMaximum);
+    return SliderRules::ratioOf(m_editors->lowerEnd(), m_editors->lowerLimit(), m_sliderMaximum);
 }
 
 double oVIXSliderWidget::ratioOfValue() const
 {
-    return SliderRules::ratioOf(value(), lowerLimit(), m_sliderMaximum);
+    return SliderRules::ratioOf(m_editors->value(), m_editors->lowerLimit(), m_sliderMaximum);
 }
 
 void oVIXSliderWidget::updateMinLimits()
 {
-    whileAlive(
-        this, [this] { m_ui->spinMin->setMaximum(m_ui->spinMax->value()); },
-        [this] { m_ui->spinMinDouble->setMaximum(m_ui->spinMaxDouble->value()); });
+    m_editors->limitLowerEnd();
 }
 
 void oVIXSliderWidget::setSliderEnd(double maximum)
 {
-    m_sliderMaximum = nearestFinite(maximum);
+    m_sliderMaximum = SliderRules::nearestFinite(maximum);
     updateSlider();
 }
 
@@ -562,12 +451,9 @@ void oVIXSliderWidget::stepAndFinish(QAbstractSpinBox *box, bool up)
         this, [&] { up ? box->stepUp() : box->stepDown(); }, [this] { fnValueFinished(); });
 }
 
-/// The box that shows the value, or the upper end of a range.
 QAbstractSpinBox *oVIXSliderWidget::valueEditor() const
 {
-    if (isLateral())
-        return m_ui->lateralSpin;
-    return isInteger() ? static_cast<QAbstractSpinBox *>(m_ui->spinMax) : m_ui->spinMaxDouble;
+    return m_editors->valueEditor();
 }
 
 /// As the slider itself is called.
@@ -582,5 +468,5 @@ void oVIXSliderWidget::nameEditors()
 
 QList<QAbstractSpinBox *> oVIXSliderWidget::editors() const
 {
-    return {m_ui->spinMin, m_ui->spinMinDouble, m_ui->lateralSpin, m_ui->spinMax, m_ui->spinMaxDouble};
+    return m_editors->all();
 }

@@ -6,6 +6,8 @@
 
 #include <memory>
 
+class SliderEditors;
+
 namespace Ui {
 class oVIXSliderWidget;
 }
@@ -151,11 +153,6 @@ private slots:
 private:
     friend class AccessibleSliderWidget;
 
-    bool isRange() const;
-    bool isInteger() const;
-    bool isLateral() const;
-    bool hasBar() const;
-    double lowerLimit() const;
     double snapRatio(double ratio) const;
     double ratioOfMinimum() const;
     double ratioOfValue() const;
@@ -167,8 +164,8 @@ private:
     void nameEditors();
 
     std::unique_ptr<Ui::oVIXSliderWidget> m_ui;
+    std::unique_ptr<SliderEditors> m_editors;
     QString m_prefix;
-    SLIDERMODE m_mode = SingleInteger;
     bool m_snapToInteger = false;
     double m_sliderMaximum = 0.0;
     double m_lastFinishedValue = 0.0;
