@@ -4,23 +4,21 @@
 #include "values/AccessiblePieChart.h"
 #include "values/PieChartPainter.h"
 #include "values/PieControls.h"
+#include "values/PieMenu.h"
 #include "values/PieModel.h"
+#include "values/PieRingView.h"
 #include "values/PieShares.h"
 #include "values/oVIXSliderWidget.h"
 
 #include <QAbstractItemModel>
 #include <QContextMenuEvent>
 #include <QHelpEvent>
-#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,21 +27,8 @@ constexpr int labelRoom = 40;
 
 } // namespace
 
-/// What is on screen, and the drag that changes it.
-struct oVIXPieChartWidget::Ring
-{
-    std::vector<PieRing::Slice> slices;
-    std::vector<PieRing::Arc> arcs;
-    bool stale = true;
-    /// How far the whole ring is turned: a drag keeps the other edge of the slice where it is.
-    int turn = 0;
-    int hovered = -1;
-    PieRing::Edge hoveredEdge = PieRing::Edge::None;
-    PieRing::Drag drag;
-};
-
 oVIXPieChartWidget::oVIXPieChartWidget(QWidget *parent)
-    : QWidget(parent), m_controls(new PieControls(this)), m_ring(new Ring)
+    : QWidget(parent), m_controls(new PieControls(this)), m_ring(new PieRingView)
 {
     AccessiblePieChart::install();
     setMinimumSize(ringSide, ringSide);
@@ -79,7 +64,7 @@ void oVIXPieChartWidget::setModel(QAbstractItemModel *model)
         disconnect(m_model, nullptr, this, nullptr);
     m_model = model;
     m_current = QPersistentModelIndex();
-    m_ring->turn = 0;
+    m_ring->turnBack();
     if (model) {
         const auto rowsChanged = [this] { modelRowsChanged(); };
         connect(model, &QAbstractItemModel::dataChanged, this, &oVIXPieChartWidget::modelDataChanged);
@@ -165,22 +150,15 @@ void oVIXPieChartWidget::onLockButtonClicked()
 void oVIXPieChartWidget::paintEvent(QPaintEvent *event)
 {
     QWidget::paintEvent(event);
-    const Ring &shown = ring();
-    const int count = int(shown.slices.size());
-    const int captioned = shown.hovered < 0 ? m_currentIndex : shown.hovered;
-    PieChartLook look;
-    look.arcs = shown.arcs;
-    look.shares.reserve(shown.slices.size());
-    for (const PieRing::Slice &slice : shown.slices)
-        look.shares.push_back(slice.share);
+    PieChartLook look = ring().look();
+    const int count = int(look.arcs.size());
+    const int captioned = look.hovered < 0 ? m_currentIndex : look.hovered;
     look.area = rect();
     look.selected = m_currentIndex < count ? m_currentIndex : -1;
-    look.hovered = shown.hovered;
-    look.grabbed = shown.drag.isRunning() ? shown.drag.edge() : shown.hoveredEdge;
     look.enabled = isEnabled();
     look.title = captioned < 0 && count > 0 ? tr("Select a slice") : PieModel::name(m_model, captioned);
     if (captioned != m_currentIndex && captioned < count)
-        look.detail = piePercentText(shown.slices[size_t(captioned)].share);
+        look.detail = piePercentText(look.shares[size_t(captioned)]);
 
     QPainter painter(this);
     paintPieChart(painter, look);
@@ -192,13 +170,13 @@ void oVIXPieChartWidget::mousePressEvent(QMouseEvent *event)
     const PieRing::Arc *arc = arcOf(m_currentIndex);
     if (event->button() != Qt::LeftButton || !PieRing::isOnRing(distance) || !arc || arc->locked)
         return;
-    m_ring->drag = PieRing::Drag(*arc, angle, m_controls->share());
+    m_ring->press(*arc, angle, m_controls->share());
     updateHover(event->position().toPoint());
 }
 
 void oVIXPieChartWidget::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!m_ring->drag.isRunning()) {
+    if (!m_ring->drag().isRunning()) {
         updateHover(event->position().toPoint());
         return;
     }
@@ -212,7 +190,7 @@ void oVIXPieChartWidget::mouseMoveEvent(QMouseEvent *event)
 void oVIXPieChartWidget::contextMenuEvent(QContextMenuEvent *event)
 {
     const int pointed = event->reason() == QContextMenuEvent::Mouse ? sliceAt(event->pos()) : -1;
-    createMenu(pointed < 0 ? m_currentIndex : pointed)->popup(event->globalPos());
+    showMenu(pointed < 0 ? m_currentIndex : pointed, event->globalPos());
     event->accept();
 }
 
@@ -225,10 +203,10 @@ bool oVIXPieChartWidget::eventFilter(QObject *watched, QEvent *event)
     if (release->button() != Qt::LeftButton)
         return false;
     const QPointer<oVIXPieChartWidget> alive(this);
-    if (m_ring->drag.hasMoved()) {
+    if (m_ring->drag().hasMoved()) {
         endDrag();
     } else {
-        m_ring->drag = {};
+        m_ring->endDrag();
         const int slice = sliceAt(release->position().toPoint());
         if (slice >= 0)
             onSelectionChanged(slice);
@@ -285,25 +263,21 @@ QPair<double, int> oVIXPieChartWidget::calculateMousePosFromPieCenter(const QPoi
     return {polar.distance, polar.angle};
 }
 
-oVIXPieChartWidget::Ring &oVIXPieChartWidget::ring() const
+PieRingView &oVIXPieChartWidget::ring() const
 {
-    if (std::exchange(m_ring->stale, false)) {
-        m_ring->slices = PieModel::slices(m_model);
-        m_ring->arcs = PieRing::arcs(m_ring->slices, m_ring->turn);
-    }
+    m_ring->read(m_model);
     return *m_ring;
 }
 
 const PieRing::Arc *oVIXPieChartWidget::arcOf(int row) const
 {
-    const std::vector<PieRing::Arc> &arcs = ring().arcs;
-    return row >= 0 && row < int(arcs.size()) ? &arcs[size_t(row)] : nullptr;
+    return ring().arcOf(row);
 }
 
 int oVIXPieChartWidget::sliceAt(const QPoint &point) const
 {
     const auto [distance, angle] = calculateMousePosFromPieCenter(point);
-    return PieRing::isOnRing(distance) ? PieRing::sliceAt(ring().arcs, angle) : -1;
+    return ring().sliceAt(distance, angle);
 }
 
 /// "Tourists, 25 percent, locked"
@@ -356,7 +330,7 @@ void oVIXPieChartWidget::followSelection()
 
 void oVIXPieChartWidget::markRingStale()
 {
-    if (!std::exchange(m_ring->stale, true))
+    if (m_ring->markStale())
         update();
 }
 
@@ -428,13 +402,8 @@ void oVIXPieChartWidget::makeEqual()
 void oVIXPieChartWidget::updateHover(const QPoint &point)
 {
     const auto [distance, angle] = calculateMousePosFromPieCenter(point);
-    if (!PieRing::isOnRing(distance)) {
-        setHover(-1, PieRing::Edge::None);
-        return;
-    }
-    const PieRing::Arc *arc = arcOf(m_currentIndex);
-    setHover(PieRing::sliceAt(ring().arcs, angle),
-             arc && !arc->locked ? PieRing::edgeAt(*arc, angle) : PieRing::Edge::None);
+    const PieRingView::Hover hover = ring().hoverAt(distance, angle, m_currentIndex);
+    setHover(hover.slice, hover.edge);
 }
 
 void oVIXPieChartWidget::setHover(int slice, PieRing::Edge edge)
@@ -442,12 +411,9 @@ void oVIXPieChartWidget::setHover(int slice, PieRing::Edge edge)
     if (edge == PieRing::Edge::None)
         unsetCursor();
     else
-        setCursor(m_ring->drag.isRunning() ? Qt::ClosedHandCursor : Qt::OpenHandCursor);
-    if (slice == m_ring->hovered && edge == m_ring->hoveredEdge)
-        return;
-    m_ring->hovered = slice;
-    m_ring->hoveredEdge = edge;
-    update();
+        setCursor(m_ring->drag().isRunning() ? Qt::ClosedHandCursor : Qt::OpenHandCursor);
+    if (m_ring->setHover({slice, edge}))
+        update();
 }
 
 void oVIXPieChartWidget::dragTo(int angle)
@@ -457,34 +423,29 @@ void oVIXPieChartWidget::dragTo(int angle)
         endDrag();
         return;
     }
-    const bool first = !m_ring->drag.hasMoved();
-    if (!m_ring->drag.moveTo(angle))
+    const bool first = !m_ring->drag().hasMoved();
+    if (!m_ring->drag().moveTo(angle))
         return;
     const QPointer<oVIXPieChartWidget> alive(this);
     if (first)
         emit valueStarted();
-    if (!alive || !m_ring->drag.isRunning())
+    if (!alive || !m_ring->drag().isRunning())
         return;
 
     // The slider widget announces a new value twice; one step is one redistribution.
     const double shown = m_controls->share();
-    m_controls->setShare(m_ring->drag.share());
+    m_controls->setShare(m_ring->drag().share());
     if (m_controls->share() != shown)
         onSpinboxValueChanged(m_controls->share());
-    if (!alive || !m_ring->drag.isRunning())
+    if (!alive || !m_ring->drag().isRunning())
         return;
-    const PieRing::Arc *arc = arcOf(m_currentIndex);
-    const int slip = arc ? m_ring->drag.slip(*arc) : 0;
-    if (slip != 0) {
-        m_ring->turn = PieRing::wrapped(m_ring->turn + slip);
-        m_ring->stale = true;
+    if (ring().holdOtherEdge(m_currentIndex))
         update();
-    }
 }
 
 void oVIXPieChartWidget::endDrag()
 {
-    if (!std::exchange(m_ring->drag, {}).hasMoved())
+    if (!m_ring->endDrag())
         return;
     // From now on the box counts this value as finished.
     showSelection();
@@ -500,30 +461,17 @@ void oVIXPieChartWidget::endEdit()
         m_controls->finishTyping();
 }
 
-QMenu *oVIXPieChartWidget::createMenu(int row)
+void oVIXPieChartWidget::showMenu(int row, const QPoint &globalPlace)
 {
-    auto *menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    const bool locked = PieModel::isLocked(m_model, row);
-    const QString name = PieModel::name(m_model, row).replace(u'&', u"&&"_s);
-    QAction *lock = menu->addAction((locked ? tr("Unlock %1") : tr("Lock %1")).arg(name).trimmed());
-    QAction *unlockAllAction = menu->addAction(tr("Unlock all"));
-    menu->addSeparator();
-    QAction *equal = menu->addAction(tr("Make all equal"));
-
-    const std::vector<PieRing::Slice> &slices = ring().slices;
-    const auto isLocked = [](const PieRing::Slice &slice) { return slice.locked; };
-    lock->setEnabled(row >= 0);
-    unlockAllAction->setEnabled(std::any_of(slices.cbegin(), slices.cend(), isLocked));
-    equal->setEnabled(!std::all_of(slices.cbegin(), slices.cend(), isLocked));
-
+    auto *menu = new PieMenu(ring().slices(), row, PieModel::name(m_model, row), this);
     // The rows may move while the menu is open.
     const QPersistentModelIndex slice = row < 0 ? QModelIndex() : m_model->index(row, 0);
-    connect(lock, &QAction::triggered, this, [this, slice, locked] {
+    const bool locked = PieModel::isLocked(m_model, row);
+    connect(menu->lockAction(), &QAction::triggered, this, [this, slice, locked] {
         if (slice.isValid() && slice.model() == m_model)
             lockSlice(slice.row(), !locked);
     });
-    connect(unlockAllAction, &QAction::triggered, this, &oVIXPieChartWidget::unlockAll);
-    connect(equal, &QAction::triggered, this, &oVIXPieChartWidget::makeEqual);
-    return menu;
+    connect(menu->unlockAllAction(), &QAction::triggered, this, &oVIXPieChartWidget::unlockAll);
+    connect(menu->makeEqualAction(), &QAction::triggered, this, &oVIXPieChartWidget::makeEqual);
+    menu->popup(globalPlace);
 }

@@ -10,8 +10,8 @@
 #include <memory>
 
 class PieControls;
+class PieRingView;
 class QAbstractItemModel;
-class QMenu;
 
 namespace PieRing {
 enum class Edge;
@@ -86,13 +86,12 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    struct Ring;
     friend class AccessiblePieChart;
 
     /// Distance and angle (sixteenths of a degree, clockwise from nine o'clock).
     QPair<double, int> calculateMousePosFromPieCenter(const QPoint &point) const;
     /// The ring as the model has it now; painting and hit tests both use it.
-    Ring &ring() const;
+    PieRingView &ring() const;
     /// Null where there is no such slice.
     const PieRing::Arc *arcOf(int row) const;
     int sliceAt(const QPoint &point) const;
@@ -111,7 +110,7 @@ private:
     void unlockAll();
     void endLocking(bool done);
     void makeEqual();
-    QMenu *createMenu(int row);
+    void showMenu(int row, const QPoint &globalPlace);
 
     void updateHover(const QPoint &point);
     void setHover(int slice, PieRing::Edge edge);
@@ -123,6 +122,6 @@ private:
     std::unique_ptr<PieControls> m_controls;
     QPersistentModelIndex m_current;
     int m_currentIndex = -1;
-    std::unique_ptr<Ring> m_ring;
+    std::unique_ptr<PieRingView> m_ring;
     bool m_redistributing = false; // the model is written from here
 };
