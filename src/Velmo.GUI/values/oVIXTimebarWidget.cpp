@@ -1,6 +1,8 @@
 #include "values/oVIXTimebarWidget.h"
 
+#include "foundation/InterFont.h"
 #include "foundation/UpdatesHeld.h"
+#include "values/MarkerFade.h"
 #include "values/SaturatedInt.h"
 #include "values/TimebarRules.h"
 
@@ -8,8 +10,6 @@
 
 #include <QCursor>
 #include <QEvent>
-#include <QGraphicsOpacityEffect>
-#include <QPropertyAnimation>
 #include <QTimer>
 
 #include <algorithm>
@@ -19,19 +19,15 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int hideDelayMsecs = 3000;
-constexpr int showMsecs = 500;
-constexpr int hideMsecs = 800;
 constexpr int fontPixelSize = 10;
 constexpr int currentTextTop = 4;
 constexpr int cropTextTop = 6;
 
 void setUpMarker(OvixMovableLabel *marker, const QString &picture, int textTop)
 {
-    QFont font(u"Inter"_s);
-    font.setPixelSize(fontPixelSize);
     marker->setFilename(picture);
     marker->setImageShape(OvixSvgLabel::Stretch);
-    marker->setFont(font);
+    marker->setFont(interFont(fontPixelSize));
     marker->setVerticalPosSubLabel(textTop);
 }
 
@@ -52,11 +48,7 @@ oVIXTimebarWidget::oVIXTimebarWidget(QWidget *parent)
     setUpMarker(m_ui->floatingCurrTime, u":/Timebar/MarkerMiddle"_s, currentTextTop);
     setUpMarker(m_ui->floatingLeftCrop, u":/Timebar/MarkerLeft"_s, cropTextTop);
     setUpMarker(m_ui->floatingRightCrop, u":/Timebar/MarkerRight"_s, cropTextTop);
-    for (size_t i = 0; i < m_opacities.size(); ++i) {
-        m_opacities[i] = new QGraphicsOpacityEffect(this);
-        m_opacities[i]->setOpacity(0.0);
-        markers()[i]->setGraphicsEffect(m_opacities[i]);
-    }
+    m_fade = std::make_unique<MarkerFade>(markers(), this);
     updateMinMaxValues();
     m_ui->floatingCurrTime->setCurrentValue(m_playValue);
     m_ui->floatingLeftCrop->setCurrentValue(m_cropStart);
@@ -297,15 +289,13 @@ void oVIXTimebarWidget::hideLabels()
     m_hideTimer->stop();
     if (m_interacting)
         return;
-    m_fadingIn = false;
-    fade(0.0, int(timeMarkerOpacity() * hideMsecs));
+    m_fade->disappear();
 }
 
 void oVIXTimebarWidget::showLabels()
 {
     m_hideTimer->stop();
-    m_fadingIn = true;
-    fade(1.0, int((1.0 - timeMarkerOpacity()) * showMsecs));
+    m_fade->appear();
 }
 
 void oVIXTimebarWidget::resizeEvent(QResizeEvent *event)
@@ -322,7 +312,7 @@ bool oVIXTimebarWidget::eventFilter(QObject *watched, QEvent *event)
     } else if (event->type() == QEvent::Enter) {
         if (isPointerInside()) {
             m_hideTimer->stop();
-            if (timeMarkerOpacity() < 1.0)
+            if (m_fade->opacity() < 1.0)
                 showLabels();
         }
     } else if (event->type() == QEvent::Leave) {
@@ -439,33 +429,11 @@ void oVIXTimebarWidget::endInteraction()
 
 void oVIXTimebarWidget::hideLaterIfLeft()
 {
-    const bool isSeen = timeMarkerOpacity() > 0.0 || m_fadingIn;
-    if (isSeen && !isPointerInside() && !m_interacting)
+    if (m_fade->isSeen() && !isPointerInside() && !m_interacting)
         m_hideTimer->start(hideDelayMsecs);
 }
 
 bool oVIXTimebarWidget::isPointerInside() const
 {
     return isVisible() && rect().contains(mapFromGlobal(QCursor::pos()));
-}
-
-double oVIXTimebarWidget::timeMarkerOpacity() const
-{
-    return m_opacities[0]->opacity();
-}
-
-/// One tween an effect: the one that runs is stopped, and with that deleted, before the next one starts.
-void oVIXTimebarWidget::fade(double opacity, int msecs)
-{
-    for (size_t i = 0; i < m_opacities.size(); ++i) {
-        if (m_fades[i])
-            m_fades[i]->stop();
-        auto *tween = new QPropertyAnimation(m_opacities[i], "opacity", this);
-        tween->setDuration(msecs);
-        tween->setStartValue(m_opacities[i]->opacity());
-        tween->setEndValue(opacity);
-        tween->setEasingCurve(QEasingCurve::OutQuad);
-        m_fades[i] = tween;
-        tween->start(QAbstractAnimation::DeleteWhenStopped);
-    }
 }

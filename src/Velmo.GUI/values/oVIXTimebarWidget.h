@@ -3,14 +3,12 @@
 #include "VelmoGuiExport.h"
 
 #include <QFrame>
-#include <QPointer>
 
 #include <array>
 #include <memory>
 
+class MarkerFade;
 class OvixMovableLabel;
-class QGraphicsOpacityEffect;
-class QPropertyAnimation;
 class QTimer;
 struct Crop;
 
@@ -146,12 +144,9 @@ private:
     void endInteraction();
     void hideLaterIfLeft();
     bool isPointerInside() const;
-    double timeMarkerOpacity() const;
-    void fade(double opacity, int msecs);
 
     std::unique_ptr<Ui::oVIXTimebarWidget> m_ui;
-    std::array<QGraphicsOpacityEffect *, 3> m_opacities = {};
-    std::array<QPointer<QPropertyAnimation>, 3> m_fades;
+    std::unique_ptr<MarkerFade> m_fade;
     QTimer *m_hideTimer;
     int m_playValue = 0;
     int m_cachedValue = 0;
@@ -162,5 +157,4 @@ private:
     int m_playStart = 0;
     bool m_blocked = false;
     bool m_interacting = false;
-    bool m_fadingIn = false;
 };
