@@ -1,5 +1,6 @@
 #include "support/Events.h"
 #include "support/Gestures.h"
+#include "support/ModalBox.h"
 #include "support/Picture.h"
 #include "support/TestCase.h"
 
@@ -40,17 +41,6 @@ using Code = VelmoMsgReturnCode;
 template <class Widget> Widget *part(Box *box, const char *name)
 {
     return box->findChild<Widget *>(QLatin1String(name));
-}
-
-/// Does something to the box that is run next, which has to end it.
-void onceShown(const std::function<void(Box *)> &act)
-{
-    QTimer::singleShot(0, qApp, [act] {
-        auto *box = qobject_cast<Box *>(QApplication::activeModalWidget());
-        QVERIFY(box);
-        QVERIFY(QTest::qWaitForWindowActive(box));
-        act(box);
-    });
 }
 
 /// The texts of a box, then accepts it.
@@ -115,12 +105,12 @@ private slots:
         QVERIFY(Events::untilIdle());
         QCOMPARE(200 + int(browser->document()->size().height()) - 82, needed);
 
-        onceShown([](Box *shown) {
+        onceModal<Box>([](Box *shown) {
             QCOMPARE(shown->height(), 330);
             shown->fnOther();
         });
         QCOMPARE(VelmoWarningMessage(u"t"_s, u"text"_s, 300, nullptr, nullptr), MsgOther);
-        onceShown([](Box *shown) { shown->fnOther(); });
+        onceModal<Box>([](Box *shown) { shown->fnOther(); });
         QCOMPARE(VelmoWarningMessage(u"t"_s, u"text"_s, INT_MAX, nullptr, nullptr), MsgOther);
     }
 
@@ -198,7 +188,7 @@ private slots:
     {
         QFETCH(std::function<void(Box *)>, act);
         const QPointer<QWidget> parent(new QWidget);
-        onceShown(act);
+        onceModal<Box>(act);
         const Code code = VelmoThreeOptionMessage(u"KIND"_s, u"t"_s, u"text"_s, u"Other"_s, parent, nullptr);
         QTEST(code, "code");
         QVERIFY(!parent || parent->children().isEmpty());
@@ -210,7 +200,7 @@ private slots:
         QStringList texts;
         const auto read = [&texts](const std::function<Code()> &run) {
             texts.clear();
-            onceShown(reading(&texts));
+            onceModal<Box>(reading(&texts));
             return run() == MsgAccepted ? texts.join(u'|') : QString();
         };
         const QString a = u"A"_s;
@@ -237,7 +227,7 @@ private slots:
         VelmoMessageClass message(u"Rename"_s, u"Scene title"_s, u"Scene title"_s, false, 0, &parent, nullptr);
         message.setButtonMode(EditButtons);
         message.showEditable(true, &edited);
-        onceShown([](Box *box) {
+        onceModal<Box>([](Box *box) {
             QVERIFY(part<QLineEdit>(box, "lnEdit")->hasFocus());
             QTest::keyClicks(part<QLineEdit>(box, "lnEdit"), u"Crowd 2"_s);
             QTest::keyClick(part<QLineEdit>(box, "lnEdit"), Qt::Key_Escape);
@@ -265,7 +255,7 @@ private slots:
     void holdsItsButtonsBack()
     {
         QStringList shown;
-        onceShown([&shown](Box *box) {
+        onceModal<Box>([&shown](Box *box) {
             auto *bar = part<VelmoYesNoWidget>(box, "widgetYesNoButtons");
             auto *close = box->findChild<oVIXDialogTitle *>()->findChild<OvixSvgButton *>();
             const auto isLocked = [box, bar, close] {

@@ -1,5 +1,6 @@
 #include "support/Events.h"
 #include "support/Gestures.h"
+#include "support/ModalBox.h"
 #include "support/TestCase.h"
 
 #include "messages/MessageRules.h"
@@ -7,7 +8,6 @@
 #include "tags/oVIXDragDropTags.h"
 
 #include <QAccessible>
-#include <QApplication>
 #include <QDropEvent>
 #include <QLabel>
 #include <QMimeData>
@@ -15,7 +15,6 @@
 #include <QRegularExpression>
 #include <QTest>
 #include <QTextBrowser>
-#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -53,15 +52,6 @@ struct Editor : oVIXDragDropTags
 oVIXDragTag *tagOf(const List *list, int row)
 {
     return qobject_cast<oVIXDragTag *>(list->itemWidget(list->item(row)));
-}
-
-void onceAsked(const std::function<void(VelmoMessageWidget *)> &act)
-{
-    QTimer::singleShot(0, qApp, [act] {
-        auto *box = qobject_cast<VelmoMessageWidget *>(QApplication::activeModalWidget());
-        QVERIFY(box);
-        act(box);
-    });
 }
 
 } // namespace
@@ -187,7 +177,7 @@ private slots:
         QFETCH(Answer, answer);
         Editor editor;
         editor.setShowAllButtons(false);
-        onceAsked([&](VelmoMessageWidget *box) { answer(&editor, box); });
+        onceModal<VelmoMessageWidget>([&](VelmoMessageWidget *box) { answer(&editor, box); });
         emit tagOf(editor.left(), 1)->tagClicked();
         QTEST(editor.state(), "state");
         QTEST(editor.told.join(u' '), "told");
@@ -204,9 +194,10 @@ private slots:
         };
         const auto onceRemoved = [](Editor *editor) {
             connect(editor, &Editor::itemRemoved, editor, [editor] { delete editor; });
-            onceAsked([](VelmoMessageWidget *box) { box->fnAccept(); });
+            onceModal<VelmoMessageWidget>([](VelmoMessageWidget *box) { box->fnAccept(); });
         };
-        QVERIFY(deletedBy([](Editor *editor) { onceAsked([editor](auto *) { delete editor; }); }, false));
+        QVERIFY(deletedBy([](Editor *editor) { onceModal<VelmoMessageWidget>([editor](auto *) { delete editor; }); },
+                          false));
         QVERIFY(deletedBy(onceRemoved, false));
         QVERIFY(deletedBy(
             [](Editor *editor) { connect(editor, &Editor::genericTagChanged, editor, [editor] { delete editor; }); },
@@ -219,7 +210,7 @@ private slots:
         Editor editor;
         QString title;
         QString text;
-        onceAsked([&](VelmoMessageWidget *box) {
+        onceModal<VelmoMessageWidget>([&](VelmoMessageWidget *box) {
             title = box->accessibleName();
             text = box->findChild<QTextBrowser *>()->toPlainText();
             box->fnReject();
