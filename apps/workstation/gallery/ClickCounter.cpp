@@ -1,10 +1,12 @@
 #include "gallery/ClickCounter.h"
 
+#include "look/Sheets.h"
+
 using namespace Qt::StringLiterals;
 
 ClickCounter::ClickCounter(QWidget *parent) : QLabel(parent)
 {
-    setStyleSheet(u"QLabel { font-family:Inter; font-size:11px; color:rgb(156,156,156); }"_s);
+    setStyleSheet(Sheets::secondaryText());
 }
 
 qsizetype ClickCounter::addLine(const QString &name)

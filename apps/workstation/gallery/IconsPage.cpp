@@ -53,12 +53,22 @@ public:
     CacheCounters()
     {
         setFixedHeight(16);
-        auto *timer = new QTimer(this);
-        connect(timer, &QTimer::timeout, this, QOverload<>::of(&QWidget::update));
-        timer->start(1s);
+        m_timer.callOnTimeout(this, qOverload<>(&QWidget::update));
     }
 
 protected:
+    void showEvent(QShowEvent *event) override
+    {
+        m_timer.start(1s);
+        QWidget::showEvent(event);
+    }
+
+    void hideEvent(QHideEvent *event) override
+    {
+        m_timer.stop();
+        QWidget::hideEvent(event);
+    }
+
     void paintEvent(QPaintEvent *) override
     {
         const QString text = IconsPage::tr("%1 pictures   ·   %2   ·   %3 files   ·   %4 files parsed")
@@ -69,6 +79,9 @@ protected:
         QPainter painter(this);
         painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter, text);
     }
+
+private:
+    QTimer m_timer;
 };
 
 } // namespace

@@ -4,12 +4,7 @@
 #include "VelmoProjectsTable.h"
 #include "gallery/FrozenHover.h"
 
-#include <QTimer>
-
-#include <chrono>
-
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -78,9 +73,7 @@ void ProjectListPage::addCounts()
     VelmoProjectsTable *many = createTable(340, 6);
     for (int i = 1; i <= 1000; ++i)
         addProject(many, tr("Project %1").arg(i));
-    // A list that is not on screen yet does not know its middle.
-    QTimer::singleShot(0ms, many,
-                       [many] { many->setSelectedProject(u"/projects/%1.vproj"_s.arg(tr("Project %1").arg(500))); });
+    many->setSelectedProject(u"/projects/%1.vproj"_s.arg(tr("Project %1").arg(500)));
     addSection(tr("Numbers of projects"), tr("The selected one of many stands in the middle."))
         ->addRow({{createTable(340, 6), tr("None")}, {one, tr("One")}, {many, tr("1,000")}});
 }

@@ -5,12 +5,8 @@
 #include "gallery/SamplePicture.h"
 
 #include <QDateTime>
-#include <QTimer>
-
-#include <chrono>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 /// A panel as the application makes them.
 class ProjectScenesSample : public VelmoProjectScenesWidget
@@ -106,8 +102,7 @@ void ProjectScenesPage::addCounts()
     ProjectScenesSample *many = addPanel(tr("1,000 scenes"), tr("Row 500 is selected and stands in the middle."), tall);
     for (int i = 1; i <= 1000; ++i)
         many->addSample(tr("Scene %1.vscene").arg(i));
-    // A list that is not on screen yet does not know its middle.
-    QTimer::singleShot(0ms, many, [many] { many->setSelectedRow(499); });
+    many->setSelectedRow(499);
 }
 
 void ProjectScenesPage::addPreviews()
