@@ -20,6 +20,10 @@ class VelmoCurtainWidget;
 class VELMO_GUI_EXPORT VelmoCurtainWidget : public QWidget
 {
     Q_OBJECT
+    // For forms; see the setters.
+    Q_PROPERTY(QString title READ getTitle WRITE setTitle)
+    Q_PROPERTY(QString subtitle READ getSubtitle WRITE setSubtitle)
+    Q_PROPERTY(bool expanded READ isExpanded WRITE setExpanded)
 
 public:
     /// Expanded at first.

@@ -30,6 +30,9 @@ class VelmoScenesTable;
 class VELMO_GUI_EXPORT VelmoScenesTable : public QWidget
 {
     Q_OBJECT
+    // For forms; see the setters.
+    Q_PROPERTY(bool editingEnabled MEMBER m_editingEnabled WRITE setEditingEnabled)
+    Q_PROPERTY(bool multiSelectionEnabled READ isMultiSelectionEnabled WRITE setMultiSelectionEnabled)
 
 public:
     /// A list without scenes.

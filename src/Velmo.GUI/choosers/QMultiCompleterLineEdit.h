@@ -21,6 +21,9 @@ class QCompleter;
 class VELMO_GUI_EXPORT QMultiCompleterLineEdit : public QLineEdit
 {
     Q_OBJECT
+    // For forms; see the setters.
+    Q_PROPERTY(bool completeEachWord READ completesEachWord WRITE setCompleteEachWord)
+    Q_PROPERTY(bool matchAnywhere READ matchesAnywhere WRITE setMatchAnywhere)
 
 public:
     /// An empty line without a completer.

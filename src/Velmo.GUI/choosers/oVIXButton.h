@@ -16,6 +16,10 @@
 class VELMO_GUI_EXPORT oVIXButton : public QLabel
 {
     Q_OBJECT
+    // For forms; see the setters.
+    Q_PROPERTY(QString icon READ icon WRITE setIcon)
+    Q_PROPERTY(QString checkedIcon READ checkedIcon WRITE setCheckedIcon)
+    Q_PROPERTY(bool checkable READ isCheckable WRITE setCheckable)
     /// The checked state, for style sheets to look at.
     Q_PROPERTY(bool checked READ isChecked WRITE setChecked)
 

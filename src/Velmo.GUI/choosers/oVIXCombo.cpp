@@ -239,6 +239,11 @@ void oVIXCombo::setText(QString caption)
     m_ui->comboLabel->setFont(m_ui->textLabel->font());
 }
 
+QString oVIXCombo::caption() const
+{
+    return m_ui->textLabel->text();
+}
+
 void oVIXCombo::setAlignment(Qt::Alignment alignment)
 {
     QLabel::setAlignment(alignment);

@@ -35,6 +35,11 @@ class oVIXCombo;
 class VELMO_GUI_EXPORT oVIXCombo : public QLabel
 {
     Q_OBJECT
+    // For forms; see the setters.
+    Q_PROPERTY(QString text READ caption WRITE setText)
+    Q_PROPERTY(Qt::Alignment alignment READ alignment WRITE setAlignment)
+    Q_PROPERTY(bool override READ isOverride WRITE setOverride)
+    Q_PROPERTY(bool allowOverride READ allowOverride WRITE setAllowOverride)
 
 public:
     /// A combo without items, caption or choice.
@@ -139,6 +144,7 @@ private slots:
     void triggeredMenuAction(QAction *action);
 
 private:
+    QString caption() const;
     bool inOverrideMode() const;
     void showChoice(const QString &text);
     void fillMenu();

@@ -24,6 +24,8 @@ class oVIXCloseDetachWidget;
 class VELMO_GUI_EXPORT oVIXCloseDetachWidget : public QFrame
 {
     Q_OBJECT
+    // For forms; see the setters.
+    Q_PROPERTY(int thumbnailSize READ getThumbnailSize WRITE setThumbnailSize)
 
 public:
     /// A group with detach and close.

@@ -26,6 +26,10 @@ class oVIXCloseDetachWidget;
 class VELMO_GUI_EXPORT oVIXDockBar : public QWidget
 {
     Q_OBJECT
+    // For forms; see the setters.
+    Q_PROPERTY(bool searchEnabled MEMBER m_searchEnabled WRITE setSearchEnabled)
+    Q_PROPERTY(bool hideSearchUntilHover MEMBER m_hideSearchUntilHover WRITE setHideSearchUntilHover)
+    Q_PROPERTY(int thumbnailSize READ getThumbnailSize WRITE setThumbnailSize)
 
 public:
     /// A header titled "DOCK BAR", without search, with detach and close.

@@ -9,6 +9,9 @@
 class VELMO_GUI_EXPORT OvixSvgButton : public OvixSvgLabel
 {
     Q_OBJECT
+    // For forms; see the setters.
+    Q_PROPERTY(bool checkable READ isCheckable WRITE setCheckable)
+    Q_PROPERTY(bool ignoreSingleClick READ ignoresSingleClick WRITE setIgnoreSingleClick)
 
 public:
     /// A button without a picture that is not checkable.

@@ -16,6 +16,17 @@
 class VELMO_GUI_EXPORT OvixSvgLabel : public QLabel
 {
     Q_OBJECT
+    // For forms; see the setters.
+    Q_PROPERTY(QString filename READ firstFilename WRITE setFilename)
+    Q_PROPERTY(ImageShape imageShape MEMBER m_imageShape WRITE setImageShape)
+    Q_PROPERTY(ColorScheme colorScheme MEMBER m_colorScheme WRITE setColorScheme)
+    Q_PROPERTY(int roundedBorder MEMBER m_roundedBorder WRITE setRoundedBorder)
+    Q_PROPERTY(double opacity MEMBER m_opacity WRITE setOpacity)
+    Q_PROPERTY(bool hoverVisible MEMBER m_hoverVisible WRITE setHoverVisible)
+    Q_PROPERTY(bool inverted MEMBER m_inverted WRITE setInverted)
+    Q_PROPERTY(bool invertOnCheck MEMBER m_invertOnCheck WRITE setInvertOnCheck)
+    Q_PROPERTY(bool invertOnHover MEMBER m_invertOnHover WRITE setInvertOnHover)
+    Q_PROPERTY(bool checked READ isChecked WRITE setChecked)
 
 public:
     /// How the picture is fitted into the widget.

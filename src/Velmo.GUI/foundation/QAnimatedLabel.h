@@ -19,6 +19,8 @@
 class VELMO_GUI_EXPORT QAnimatedLabel : public QClickableLabel
 {
     Q_OBJECT
+    // For forms; see the setters.
+    Q_PROPERTY(float speed MEMBER m_speed WRITE setSpeed)
 
 public:
     /// A label without frames, standing still.

@@ -11,6 +11,8 @@
 class VELMO_GUI_EXPORT QClickableLabel : public QLabel
 {
     Q_OBJECT
+    // For forms; see the setters.
+    Q_PROPERTY(bool ignoreSingleClick READ ignoresSingleClick WRITE setIgnoreSingleClick)
 
 public:
     /// An empty label.

@@ -12,6 +12,8 @@
 class VELMO_GUI_EXPORT oVIXAspectRatioLabel : public QLabel
 {
     Q_OBJECT
+    // For forms; see the setters.
+    Q_PROPERTY(QPixmap pixmap MEMBER m_source WRITE setPixmap)
 
 public:
     /// A label without a picture.

@@ -13,6 +13,8 @@ class TitleLabel;
 class VELMO_GUI_EXPORT oVIXDialogTitle : public QFrame
 {
     Q_OBJECT
+    // For forms; see the setters.
+    Q_PROPERTY(bool dragEnabled MEMBER m_dragEnabled WRITE setDragEnabled)
 
 public:
     /// A strip for @p parent, the dialog, which owns it and gives it its width.

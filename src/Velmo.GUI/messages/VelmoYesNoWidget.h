@@ -20,6 +20,10 @@ class VelmoYesNoWidget;
 class VELMO_GUI_EXPORT VelmoYesNoWidget : public QLabel
 {
     Q_OBJECT
+    // For forms; see the setters.
+    Q_PROPERTY(QString okText READ getOkText WRITE setOkText)
+    Q_PROPERTY(QString msgText READ getMsgText WRITE setMsgText)
+    Q_PROPERTY(bool enableOkButton READ getEnableOkButton WRITE enableOkButton)
 
 public:
     /// A strip without a message whose OK half does not answer.

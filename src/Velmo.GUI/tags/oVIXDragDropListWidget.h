@@ -24,6 +24,8 @@ class VELMO_GUI_EXPORT oVIXDragDropListWidget : public QListWidget
     Q_OBJECT
     Q_MOC_INCLUDE(<QDropEvent>)
     Q_MOC_INCLUDE(<QMouseEvent>)
+    // For forms; see the setters.
+    Q_PROPERTY(bool showAllButtons READ getShowAllButtons WRITE setShowAllButtons)
 
 public:
     /// A list without tags.

@@ -16,6 +16,8 @@ class VELMO_GUI_EXPORT oVIXTagListWidget : public QListWidget
 {
     Q_OBJECT
     Q_MOC_INCLUDE(<QMouseEvent>)
+    // For forms; see the setters.
+    Q_PROPERTY(bool emitDrag MEMBER m_emitDrag WRITE setEmitDrag)
 
 public:
     /// A list without rows.

@@ -8,6 +8,8 @@
 class VELMO_GUI_EXPORT oVIXTagListWidgetItem : public QLabel
 {
     Q_OBJECT
+    // For forms; see the setters.
+    Q_PROPERTY(QString text READ text WRITE setText)
 
 public:
     /// A chip without a text.

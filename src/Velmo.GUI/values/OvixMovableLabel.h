@@ -22,6 +22,11 @@ struct MarkerScale;
 class VELMO_GUI_EXPORT OvixMovableLabel : public OvixSvgLabel
 {
     Q_OBJECT
+    // For forms; see the setters.
+    Q_PROPERTY(int currentValue READ getValue WRITE setCurrentValue)
+    Q_PROPERTY(bool draggable READ isDraggable WRITE setDraggable)
+    Q_PROPERTY(bool editable READ isEditable WRITE setEditable)
+    Q_PROPERTY(QFont font READ font WRITE setFont)
 
 public:
     /// A marker of the value 0, without a picture.

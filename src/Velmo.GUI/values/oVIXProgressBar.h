@@ -13,6 +13,8 @@
 class VELMO_GUI_EXPORT oVIXProgressBar : public QProgressBar
 {
     Q_OBJECT
+    // For forms; see the setters.
+    Q_PROPERTY(bool clickable READ isClickable WRITE setClickable)
 
 public:
     /// A bar from 0 to 100 at its start.

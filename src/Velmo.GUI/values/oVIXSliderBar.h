@@ -18,6 +18,11 @@
 class VELMO_GUI_EXPORT oVIXSliderBar : public QLabel
 {
     Q_OBJECT
+    // For forms; see the setters.
+    Q_PROPERTY(bool borderLeft MEMBER m_borderLeft WRITE setBorderLeft)
+    Q_PROPERTY(bool borderRight MEMBER m_borderRight WRITE setBorderRight)
+    Q_PROPERTY(bool roundedLeft MEMBER m_roundedLeft WRITE setRoundedLeft)
+    Q_PROPERTY(bool roundedRight MEMBER m_roundedRight WRITE setRoundedRight)
 
 public:
     /// A bar filled from edge to edge.

@@ -38,6 +38,15 @@ class oVIXSliderWidget;
 class VELMO_GUI_EXPORT oVIXSliderWidget : public QAbstractSpinBox
 {
     Q_OBJECT
+    // For forms, in the order that they are set in: each is limited by those before it. See the setters.
+    Q_PROPERTY(SLIDERMODE mode MEMBER m_mode WRITE changeMode)
+    Q_PROPERTY(double minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(double sliderMaximum READ sliderMaximum WRITE setSliderMaximum)
+    Q_PROPERTY(double spinBoxMaximum READ spinBoxMaximum WRITE setSpinBoxMaximum)
+    Q_PROPERTY(double value READ value WRITE setValue)
+    Q_PROPERTY(double valueMin READ valueMin WRITE setValueMin)
+    Q_PROPERTY(QString prefix READ getPrefix WRITE setPrefix)
+    Q_PROPERTY(bool snapToInteger MEMBER m_snapToInteger WRITE setSnapToInteger)
 
 public:
     /// Integer modes snap to whole numbers, the others do not; see `setSnapToInteger`.

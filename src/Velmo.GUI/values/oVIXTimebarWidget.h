@@ -31,6 +31,9 @@ class oVIXTimebarWidget;
 class VELMO_GUI_EXPORT oVIXTimebarWidget : public QFrame
 {
     Q_OBJECT
+    // For forms; see the setters.
+    Q_PROPERTY(int maxValue READ getMax WRITE setMaxValue)
+    Q_PROPERTY(bool clickable READ isClickable WRITE setClickable)
 
 public:
     /// A timebar from 0 to 100 with nothing cached.
