@@ -4,6 +4,7 @@
 build_packages=(
     cmake ninja-build ccache g++
     qt6-base-dev qt6-svg-dev qt6-l10n-tools
+    qt6-tools-dev libqt6opengl6-dev
     fonts-inter
     webp qt6-image-formats-plugins
     libbenchmark-dev
