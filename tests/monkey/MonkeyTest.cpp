@@ -1,0 +1,196 @@
+#include "monkey/Monkey.h"
+#include "monkey/LastWords.h"
+#include "monkey/PublicHeaders.h"
+#include "monkey/Senders.h"
+#include "support/OwnSettings.h"
+#include "support/TestCase.h"
+
+#include "gallery/GalleryPages.h"
+#include "look/ApplicationLook.h"
+#include "look/Wording.h"
+#include "scenes/ShippedProjects.h"
+#include "window/WorkstationWindow.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QDirIterator>
+#include <QOperatingSystemVersion>
+#include <QScrollArea>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What the command line asks for besides what every test knows.
+struct Options
+{
+    quint32 seed = 1;
+    int events = 20000; // of all rows together
+    int share = 1; // of the rows, from 1
+    int shares = 1;
+};
+Options options;
+
+Monkey *playing = nullptr;
+QtMessageHandler handlerBefore = nullptr;
+
+/// A warning ends the walk, so that it can be seen what has led to it.
+void hearWarnings(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    // The consent dialog's options have a sheet that is meant to be broken. The test's own handler knows the others.
+    if (text.startsWith("Could not parse stylesheet of object QRadioButton"_L1))
+        return;
+    const bool isMeant = text.startsWith("Could not parse stylesheet of object oVIXDragDropListWidget("_L1)
+        || text.startsWith("This plugin does not support"_L1);
+    if (playing && type != QtDebugMsg && type != QtInfoMsg && !isMeant)
+        playing->stop(u"warning: "_s + text);
+    handlerBefore(type, context, text);
+}
+
+void copyFolder(const QString &from, const QString &to)
+{
+    for (QDirIterator files(from, QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
+        const QString file = files.next();
+        const QString copy = to + file.mid(from.size());
+        QDir().mkpath(QFileInfo(copy).path());
+        QFile::copy(file, copy);
+    }
+}
+
+Monkey::Rules rulesFor(const QString &row)
+{
+    Monkey::Rules rules;
+    const QStringList classes = PublicHeaders::classNames();
+    rules.libraryClasses = QSet<QString>(classes.cbegin(), classes.cend());
+    for (const Senders::Sender &sender : Senders::all()) {
+        const bool atOnce = std::all_of(sender.causes.cbegin(), sender.causes.cend(), [](const Senders::Cause &cause) {
+            return cause.deletion == Senders::Deletion::AtOnce;
+        });
+        rules.diesOfSignals.insert(QString::fromLatin1(sender.className), atOnce);
+    }
+    const bool isWindow = row == u"workstation"_s;
+    rules.changesParts = !isWindow;
+    rules.deletesParts = !isWindow && row != u"overlays"_s; // which keeps one of its windows
+    return rules;
+}
+
+} // namespace
+
+class MonkeyTest : public TestCase
+{
+    Q_OBJECT
+
+public slots:
+    /// What would open a browser.
+    void openNothing(const QUrl &) { }
+
+private slots:
+    void initTestCase()
+    {
+        std::printf("Replay with --seed %u --events %d --share %d/%d\n", options.seed, options.events, options.share,
+                    options.shares);
+        QCoreApplication::setOrganizationName(u"Test"_s);
+        keepSettingsIn(m_folder.path());
+        // The trash is beside the user's files.
+        qputenv("HOME", QFile::encodeName(m_folder.path()));
+        qputenv("XDG_DATA_HOME", QFile::encodeName(m_folder.path()));
+        for (const QString &scheme : {u"http"_s, u"https"_s, u"file"_s})
+            QDesktopServices::setUrlHandler(scheme, this, "openNothing");
+        ApplicationLook::install();
+        QVERIFY(Wording::install());
+        handlerBefore = qInstallMessageHandler(hearWarnings);
+        LastWords::install([] { return playing ? playing->lastEvents() : QStringList(); });
+    }
+    void cleanupTestCase() { qInstallMessageHandler(handlerBefore); }
+
+    void nothingBreaks_data()
+    {
+        QTest::addColumn<int>("number");
+        QTest::addColumn<int>("events");
+        QStringList names{u"workstation"_s};
+        for (const GalleryPages::Page &page : GalleryPages::all())
+            names << page.id;
+        for (int i = options.share - 1; i < int(names.size()); i += options.shares)
+            QTest::newRow(qPrintable(names[i])) << i << options.events / int(names.size()) + 1;
+    }
+    void nothingBreaks()
+    {
+        QFETCH(int, number);
+        QFETCH(int, events);
+        const QString row = QString::fromLatin1(QTest::currentDataTag());
+        if (number == 0 && QOperatingSystemVersion::currentType() == QOperatingSystemVersion::Windows)
+            QSKIP("There is one trash for everything.");
+
+        Monkey monkey(options.seed + quint32(number) * 7919, rulesFor(row));
+        playing = &monkey;
+        const QString flaw = monkey.play(number == 0 ? [this] { return createWindow(); }
+                                                     : Monkey::Create([number] { return createPage(number - 1); }),
+                                         events);
+        playing = nullptr;
+        if (flaw.isEmpty() && !QTest::currentTestFailed())
+            return;
+        for (const QString &event : monkey.lastEvents())
+            std::printf("  %s\n", qPrintable(event));
+        QVERIFY2(flaw.isEmpty(), qPrintable(flaw));
+    }
+
+private:
+    static QWidget *createPage(int page)
+    {
+        auto *area = new QScrollArea;
+        area->setWidgetResizable(true);
+        area->resize(1200, 760);
+        area->setWidget(GalleryPages::all()[page].create());
+        return area;
+    }
+
+    /// The window with copies of the shipped projects.
+    QWidget *createWindow()
+    {
+        m_projects = std::make_unique<QTemporaryDir>();
+        copyFolder(ShippedProjects::folder(), m_projects->path());
+        m_settings = std::make_unique<QSettings>(m_folder.filePath(u"window.ini"_s), QSettings::IniFormat);
+        auto *window = new WorkstationWindow(m_projects->path(), m_settings.get());
+        QTimer::singleShot(0, window, &WorkstationWindow::beginOnboarding);
+        return window;
+    }
+
+    QTemporaryDir m_folder;
+    std::unique_ptr<QTemporaryDir> m_projects;
+    std::unique_ptr<QSettings> m_settings;
+};
+
+/// Takes an option and its value out of the arguments; what other options there are is for the test library.
+static QByteArray takeOption(const char *name, int &argc, char **argv)
+{
+    for (int i = 1; i + 1 < argc; ++i) {
+        if (qstrcmp(argv[i], name) != 0)
+            continue;
+        const QByteArray value = argv[i + 1];
+        std::copy(argv + i + 2, argv + argc + 1, argv + i);
+        argc -= 2;
+        return value;
+    }
+    return {};
+}
+
+int main(int argc, char **argv)
+{
+    if (const QByteArray seed = takeOption("--seed", argc, argv); !seed.isEmpty())
+        options.seed = seed.toUInt();
+    if (const QByteArray events = takeOption("--events", argc, argv); !events.isEmpty())
+        options.events = events.toInt();
+    if (const QByteArrayList share = takeOption("--share", argc, argv).split('/'); share.size() == 2) {
+        options.share = std::max(1, share[0].toInt());
+        options.shares = std::max(1, share[1].toInt());
+    }
+    return TestCase::run<MonkeyTest>(argc, argv);
+}
+
+#include "MonkeyTest.moc"
