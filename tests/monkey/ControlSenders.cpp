@@ -5,20 +5,15 @@
 #include "QAnimatedWebp.h"
 #include "QClickableLabel.h"
 #include "QClickableWidget.h"
-#include "VelmoDropData.h"
 #include "oVIXButton.h"
 #include "oVIXCombo.h"
 
 #include <QApplication>
-#include <QDropEvent>
 #include <QImage>
 #include <QMenu>
-#include <QMimeData>
 #include <QPixmap>
 #include <QTemporaryDir>
 #include <QTimer>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -28,25 +23,19 @@ namespace {
 /// Opens the menu, moves to an item and chooses it.
 void chooseInMenu(oVIXCombo *combo)
 {
-    QTimer::singleShot(0, qApp, [] {
-        const QPointer<QMenu> menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        if (!menu)
-            return;
-        const QPoint item = menu->actionGeometry(menu->actions().constLast()).center();
-        QTest::mouseMove(menu, item);
-        if (menu)
-            QTest::mouseClick(menu, Qt::LeftButton, {}, item);
-        if (menu)
-            menu->close();
+    QObject::connect(combo, &oVIXCombo::menuOpened, combo, [] {
+        QTimer::singleShot(0, qApp, [] {
+            const QPointer<QMenu> menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+            const QPoint item = menu ? menu->actionGeometry(menu->actions().constLast()).center() : QPoint();
+            if (menu)
+                QTest::mouseMove(menu, item);
+            if (menu)
+                QTest::mouseClick(menu, Qt::LeftButton, {}, item);
+            if (menu)
+                menu->close();
+        });
     });
     Gestures::click(partOf(combo, u"comboLabel"_s));
-}
-
-void dropOn(QWidget *widget)
-{
-    const std::unique_ptr<QMimeData> data(VelmoDropData({{u"Tree"_s, {}}}, VelmoDropData::Tags).getMimeData());
-    QDropEvent drop({5, 5}, Qt::CopyAction, data.get(), Qt::LeftButton, {});
-    QCoreApplication::sendEvent(widget, &drop);
 }
 
 QString writtenPicture()
@@ -116,7 +105,7 @@ QList<Senders::Sender> Senders::ofFoundationAndChoosers()
          },
          {{"hovered(int)", with<oVIXCombo>(chooseInMenu)},
           {"currentIndexChanged(int)", with<oVIXCombo>(chooseInMenu)},
-          {"dropped(QMimeData*,QObject*)", with<oVIXCombo>(dropOn)},
+          {"dropped(QMimeData*,QObject*)", with<QWidget>(dropTag)},
           {"resetCombo()", with<oVIXCombo>([](oVIXCombo *combo) {
                combo->clear();
                Gestures::click(partOf(combo, u"openButton"_s));

@@ -38,12 +38,11 @@ bool holds(const oVIXCombo *combo)
     return combo->currentIndex() >= -1 && combo->currentIndex() < combo->count();
 }
 
+/// But for the last one, which may be the add tag.
 bool isSorted(const QStringList &tags)
 {
-    // The add tag, which has no text, stands behind the others.
-    for (qsizetype i = 1; i < tags.size(); ++i) {
-        const bool endsWithAddTag = i == tags.size() - 1 && tags[i].isEmpty();
-        if (!endsWithAddTag && tags[i - 1].compare(tags[i], Qt::CaseInsensitive) > 0)
+    for (qsizetype i = 1; i < tags.size() - 1; ++i) {
+        if (tags[i - 1].compare(tags[i], Qt::CaseInsensitive) > 0)
             return false;
     }
     return true;

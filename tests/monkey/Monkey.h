@@ -6,14 +6,12 @@
 #include <QPointF>
 #include <QPointer>
 #include <QRandomGenerator>
-#include <QSet>
 #include <QStringList>
 #include <QTimer>
 #include <QWidget>
 
 #include <functional>
 
-class QEventLoop;
 class QWindow;
 
 /// Uses a window as nobody would: moves the pointer, presses buttons and keys, turns the wheel, resizes, hides,
@@ -31,9 +29,8 @@ public:
 
     struct Rules
     {
-        /// What widgets of these classes are made of is not touched.
-        QSet<QString> libraryClasses;
-        /// Those that receivers of their signals delete; at once where that is true, else later.
+        /// Names of classes whose objects the receivers of their signals delete; at once where that is true, else
+        /// later.
         QHash<QString, bool> diesOfSignals;
         /// Whether single widgets are hidden, disabled and resized, and whether they are deleted.
         bool changesParts = true;
@@ -98,7 +95,6 @@ private:
     Create m_create;
     QPointer<QWidget> m_root;
     QTimer m_turn;
-    QEventLoop *m_loop = nullptr;
     int m_left = 0;
     int m_lifeLeft = 0;
     int m_sent = 0;

@@ -20,6 +20,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int longestClick = 120; // milliseconds
+constexpr int mostWindows = 30; // on screen
 constexpr int mostDeletions = 8; // of one window
 
 QString describe(const QWidget *widget)
@@ -73,6 +74,8 @@ QWidget *Monkey::pickWindow()
         if (window->isVisible() && window->windowHandle() && !isBlocked(window))
             windows << window;
     }
+    if (windows.size() > mostWindows)
+        stop(u"too many windows"_s);
     // Their order is that of addresses.
     std::sort(windows.begin(), windows.end(),
               [](const QWidget *left, const QWidget *right) { return describe(left) < describe(right); });
@@ -99,28 +102,22 @@ QWidget *Monkey::pickWidget(QWidget *window)
     return found;
 }
 
-/// The widgets that the window's own code has made: what the library's widgets are made of is theirs.
+/// The widgets that the page's own code has made. What those of the library and of the toolkit are made of is theirs.
 QList<QWidget *> Monkey::ownParts() const
 {
-    const auto isOfLibrary = [this](const QWidget *widget) {
-        for (const QMetaObject *meta = widget->metaObject(); meta; meta = meta->superClass()) {
-            if (m_rules.libraryClasses.contains(QLatin1String(meta->className())))
-                return true;
-        }
-        return false;
-    };
     QWidgetList parts;
-    QWidgetList open{m_root};
+    const auto *area = qobject_cast<QScrollArea *>(m_root.data());
+    QWidgetList open{area ? area->widget() : nullptr};
     while (!open.isEmpty()) {
-        QWidget *whole = open.takeLast();
-        if (whole != m_root && isOfLibrary(whole))
-            continue;
-        for (QObject *child : whole->children()) {
+        const QWidget *whole = open.takeLast();
+        for (QObject *child : whole ? whole->children() : QObjectList()) {
             auto *part = qobject_cast<QWidget *>(child);
-            if (part && !part->isWindow()) {
-                parts << part;
+            if (!part || part->isWindow())
+                continue;
+            parts << part;
+            const QByteArray name = part->metaObject()->className();
+            if (name == "QWidget" || name == "SampleSection")
                 open << part;
-            }
         }
     }
     return parts;

@@ -26,8 +26,8 @@ namespace {
 
 QMainWindow *createMainWindow(QWidget *host)
 {
-    auto *window = new QMainWindow(host, Qt::Widget);
-    window->setGeometry(0, 0, 600, 400);
+    auto *window = new QMainWindow(host);
+    window->setGeometry(50, 50, 600, 400);
     return window;
 }
 
@@ -48,6 +48,7 @@ oVIXDock *createDock(QWidget *host)
     dock->setSearchEnabled(true);
     dock->setHideSearchUntilHover(false);
     window->addDockWidget(Qt::LeftDockWidgetArea, dock);
+    Gestures::show(window);
     return dock;
 }
 
@@ -69,8 +70,9 @@ void search(QWidget *header)
 void clearSearch(QWidget *header)
 {
     auto *field = header->findChild<QMultiCompleterLineEdit *>();
+    QWidget *button = field->parentWidget()->findChild<OvixSvgButton *>();
     field->setText(u"a"_s);
-    Gestures::click(field->parentWidget()->findChild<OvixSvgButton *>());
+    Gestures::click(button);
 }
 
 void showAt(oVIXFloatingWidget *popup)
@@ -132,14 +134,14 @@ QList<Senders::Sender> Senders::ofFrameAndDocking()
           {"detachClicked()", click(u"btDetach"_s)},
           {"thumbClicked(int)", chooseSize},
           {"s_clearoptions()", clear},
-          {"s_search(QString)", typeSearch},
-          {"s_search(QString)", clear}}},
+          {"s_search(QString)", typeSearch, Deletion::Later},
+          {"s_search(QString)", clear, Deletion::Later}}},
         {"oVIXDock",
          createDock,
          {{"closeClicked()", click(u"btClose"_s)},
           {"thumbClicked(int)", chooseSize},
-          {"s_search(QString)", typeSearch},
-          {"s_search(QString)", clear},
+          {"s_search(QString)", typeSearch, Deletion::Later},
+          {"s_search(QString)", clear, Deletion::Later},
           {"s_clearoptions()", clear}}},
         {"oVIXDialogTitle",
          [](QWidget *host) {
@@ -168,7 +170,12 @@ QList<Senders::Sender> Senders::ofFrameAndDocking()
           {"s_maximize()", click(u"btMax"_s)},
           {"s_close()", click(u"btClose"_s)}}},
         {"oVIXTitleBar",
-         [](QWidget *host) { return new oVIXTitleBar(createMainWindow(host)->menuBar(), true, true, true); },
+         [](QWidget *host) {
+             QMainWindow *window = createMainWindow(host);
+             auto *bar = new oVIXTitleBar(window->menuBar(), true, true, true);
+             Gestures::show(window);
+             return bar;
+         },
          {{"minimized()",
            with<oVIXTitleBar>([](oVIXTitleBar *bar) { Gestures::click(partOf(bar->getCloseWidget(), u"btMin"_s)); })},
           {"maximized()", with<oVIXTitleBar>([](oVIXTitleBar *bar) {

@@ -8,8 +8,8 @@
 /// What the public headers of the library say, as the build lists them.
 namespace PublicHeaders {
 
-/// The classes that are exported; with @p signalsOnly those alone that have signals of their own.
-inline QStringList classNames(bool signalsOnly = false)
+/// The classes that have signals of their own.
+inline QStringList classesWithSignals()
 {
     static const QRegularExpression exported(QStringLiteral("class VELMO_GUI_EXPORT (\\w+)"));
     QStringList names;
@@ -19,10 +19,8 @@ inline QStringList classNames(bool signalsOnly = false)
         if (!file.open(QIODevice::ReadOnly))
             qFatal("cannot read %s", qPrintable(file.fileName()));
         const QString text = QString::fromUtf8(file.readAll());
-        if (signalsOnly && !text.contains(QLatin1String("\nsignals:")))
-            continue;
-        for (auto match = exported.globalMatch(text); match.hasNext();)
-            names << match.next().captured(1);
+        if (text.contains(QLatin1String("\nsignals:")))
+            names << exported.match(text).captured(1);
     }
     return names;
 }

@@ -3,11 +3,16 @@
 #include "monkey/Senders.h"
 #include "support/Gestures.h"
 
+#include "VelmoDropData.h"
+
+#include <QDropEvent>
+#include <QMimeData>
 #include <QPointer>
 #include <QString>
 #include <QTest>
 #include <QWidget>
 
+#include <memory>
 #include <utility>
 
 /// The parts of the list of senders, and what their causes are made of.
@@ -81,6 +86,21 @@ inline void type(QWidget *widget, const QString &text, Qt::Key last = Qt::Key_Re
         QTest::keyPress(typed.data(), last);
     if (typed)
         QTest::keyRelease(typed.data(), last);
+}
+
+/// Drags a tag of the application over @p widget and drops it there.
+inline void dropTag(QWidget *widget)
+{
+    const QPointer<QWidget> target(widget);
+    const std::unique_ptr<QMimeData> data(
+        VelmoDropData({{QStringLiteral("Tree"), {}}}, VelmoDropData::Tags).getMimeData());
+    QDragEnterEvent enter({5, 5}, Qt::MoveAction, data.get(), Qt::LeftButton, {});
+    QDragMoveEvent move({5, 5}, Qt::MoveAction, data.get(), Qt::LeftButton, {});
+    QDropEvent drop({5, 5}, Qt::MoveAction, data.get(), Qt::LeftButton, {});
+    for (QDropEvent *event : {static_cast<QDropEvent *>(&enter), static_cast<QDropEvent *>(&move), &drop}) {
+        if (target)
+            QCoreApplication::sendEvent(target, event);
+    }
 }
 
 /// Puts a widget into the host, at a place where drags have room.

@@ -10,12 +10,8 @@
 #include "oVIXTagListWidget.h"
 
 #include <QApplication>
-#include <QDropEvent>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QTimer>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -45,15 +41,7 @@ void pressButton(QWidget *tag)
 void addTag(oVIXDragTag *tag)
 {
     tag->fnAddClicked();
-    type(tag->findChild<oVIXAutoHideLine *>(), u"House"_s);
-}
-
-/// The list takes what is dropped whole, as a drag of its own kind brings it.
-void dropOn(oVIXDragDropListWidget *list)
-{
-    const std::unique_ptr<QMimeData> data(VelmoDropData({{u"House"_s, {}}}, VelmoDropData::Tags).getMimeData());
-    QDropEvent drop({5, 5}, Qt::CopyAction, data.get(), Qt::LeftButton, {});
-    QCoreApplication::sendEvent(list->viewport(), &drop);
+    type(tag->findChild<oVIXAutoHideLine *>(), u"Road"_s);
 }
 
 void startSmallDrag(oVIXTagListWidget *list)
@@ -110,7 +98,7 @@ QList<Senders::Sender> Senders::ofTags()
         list->setEmitDrag(true);
         return list;
     };
-    const Act drop = with<oVIXDragDropListWidget>(dropOn);
+    const Act drop = with<oVIXDragDropListWidget>([](oVIXDragDropListWidget *list) { dropTag(list->viewport()); });
     const Act changeList = with<oVIXDragDropTags>([](oVIXDragDropTags *editor) {
         editor->fnChangedList(static_cast<oVIXDragDropListWidget *>(leftListOf(editor)));
     });
@@ -134,7 +122,7 @@ QList<Senders::Sender> Senders::ofTags()
           {"addNewItem(QString)", onTag(1, addTag)}}},
         {"oVIXDragDropTags",
          createEditor,
-         {{"userTagChanged(QList<QString>)", changeList},
+         {{"userTagChanged(QStringList)", changeList},
           {"newItemAdded(QString)", onLeftTag(2, addTag)},
           {"itemRemoved(QString)", with<oVIXDragDropTags>(deleteFirstTag)},
           {"genericTagChanged(int)", onLeftTag(0, doubleClickOn)},
