@@ -1,5 +1,6 @@
 #include "support/Events.h"
 #include "support/Gestures.h"
+#include "support/Picture.h"
 #include "support/TestCase.h"
 
 #include "foundation/OvixSvgButton.h"
@@ -26,10 +27,27 @@ class DialogTest : public TestCase
 private slots:
     void writesItsTitleAsTyped()
     {
-        QCOMPARE(titleText(u"Save <b> as"_s, u"a & b"_s),
+        QCOMPARE(whiteAndGrey(u"Save <b> as: "_s, u"a & b"_s),
                  u"<font color=\"#ffffff\"> Save&nbsp;&lt;b&gt;&nbsp;as:&nbsp;</font>"
                  "<font color=\"#9c9c9c\"> a&nbsp;&amp;&nbsp;b</font>"_s);
-        QVERIFY(titleText(u"%1"_s, u"%2"_s).contains(u"%1:&nbsp;"_s));
+        QVERIFY(whiteAndGrey(u"%1"_s, u"%2"_s).contains(u"%1<"_s));
+    }
+
+    void endsALongTitleInAnEllipsis()
+    {
+        oVIXDialogTitle title(nullptr);
+        QLabel *label = title.findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly).last();
+        for (const auto &[white, grey] :
+             {std::pair{u"Scene"_s, QString(200, u'W')}, {QString(200, u'W'), u"Scene"_s}}) {
+            title.setTitle(white, grey);
+            title.resize(300, title.height());
+            title.layout()->activate();
+            QVERIFY(label->geometry().right() < 300 - 32); // the button
+            const QRect drawn = Picture::drawnArea(
+                Picture::of(label).copy(0, 0, label->width(), label->height() / 2)); // above the dots
+            QVERIFY(drawn.width() > 200 && drawn.right() < label->width() - 5);
+            QVERIFY(label->text().contains(QString(200, u'W')));
+        }
     }
 
     void goesToTheMiddle_data()

@@ -14,12 +14,8 @@ public:
 protected:
     void paintEvent(QPaintEvent *event) override
     {
-        const QRect room = ElidedText::roomOf(this);
-        const QString shown = ElidedText::of(this, room.width());
-        if (shown == text())
+        if (!ElidedText::paintShortened(this))
             QLabel::paintEvent(event);
-        else
-            ElidedText::paint(this, room, shown);
     }
 
 private:

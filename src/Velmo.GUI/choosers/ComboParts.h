@@ -26,14 +26,10 @@ public:
 protected:
     void paintEvent(QPaintEvent *event) override
     {
-        const QRect room = ElidedText::roomOf(this);
-        const QString shown = ElidedText::of(this, room.width());
-        if (shown == text()) {
-            QClickableLabel::paintEvent(event);
-        } else {
-            ElidedText::paint(this, room, shown);
+        if (ElidedText::paintShortened(this))
             paintFocusRing(this);
-        }
+        else
+            QClickableLabel::paintEvent(event);
     }
 
 private:

@@ -5,14 +5,13 @@
 #include "docking/oVIXCloseDetachWidget.h"
 #include "foundation/InterFont.h"
 #include "foundation/OvixSvgButton.h"
-#include "frame/TitleText.h"
+#include "frame/TitleLabel.h"
 
 #include <QAbstractItemModel>
 #include <QCompleter>
 #include <QCursor>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QMouseEvent>
 
 using namespace Qt::StringLiterals;
@@ -63,7 +62,7 @@ void oVIXDockBar::setTitle(QString title, QString subtitle, QString fontFamily, 
     if (pixelSize > 0)
         font.setPixelSize(pixelSize);
     m_titleLabel->setFont(font);
-    m_titleLabel->setText(whiteAndGrey(title.toUpper(), subtitle));
+    m_titleLabel->setTexts(title.toUpper(), subtitle);
 }
 
 void oVIXDockBar::setSearch(QString text)
@@ -198,9 +197,7 @@ void oVIXDockBar::mouseReleaseEvent(QMouseEvent *event)
 
 void oVIXDockBar::createTitle()
 {
-    m_titleLabel = new QLabel(this);
-    m_titleLabel->setTextFormat(Qt::RichText);
-    m_titleLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_titleLabel = new TitleLabel(this);
     m_titleLabel->setFocusPolicy(Qt::NoFocus);
     m_titleLabel->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     m_titleLabel->setMinimumWidth(1); // a long title does not widen the panel

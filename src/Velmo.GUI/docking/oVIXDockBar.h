@@ -10,9 +10,9 @@
 class OvixSvgButton;
 class QAbstractItemModel;
 class QCompleter;
-class QLabel;
 class QMainWindow;
 class QMultiCompleterLineEdit;
+class TitleLabel;
 class oVIXCloseDetachWidget;
 
 /// The header of a panel: the title, a search field that takes its place, and the buttons. It reports everything with
@@ -37,7 +37,7 @@ public:
     ~oVIXDockBar() override;
 
     /// @p title is shown in capitals, white; @p subtitle follows, grey. Both are plain text on one line, blanks
-    /// included, and are cut off where the header ends. A pixel size of 0 or less leaves the size of the font.
+    /// included, and end in an ellipsis where they do not fit. A pixel size of 0 or less leaves the size of the font.
     void setTitle(QString title, QString subtitle, QString fontFamily, int pixelSize);
 
     /// Writes into the search field, as typing would.
@@ -108,5 +108,5 @@ private:
     OvixSvgButton *m_clearButton;
     QPointer<QCompleter> m_completer; // null: no suggestions
     bool m_hideSearchUntilHover = true;
-    QLabel *m_titleLabel;
+    TitleLabel *m_titleLabel;
 };

@@ -51,4 +51,15 @@ inline void paint(QLabel *label, const QRect &room, const QString &text)
                                  label->isEnabled(), text, label->foregroundRole());
 }
 
+/// Paints the text of a label that has too little room for it. False, and nothing is painted, where all of it fits.
+inline bool paintShortened(QLabel *label)
+{
+    const QRect room = roomOf(label);
+    const QString shown = of(label, room.width());
+    if (shown == label->text())
+        return false;
+    paint(label, room, shown);
+    return true;
+}
+
 } // namespace ElidedText

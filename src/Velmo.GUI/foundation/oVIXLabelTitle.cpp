@@ -1,6 +1,14 @@
 #include "foundation/oVIXLabelTitle.h"
 
+#include "foundation/ElidedText.h"
+
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int narrowest = 24;
+
+} // namespace
 
 oVIXLabelTitle::oVIXLabelTitle(QWidget *parent) : QLabel(parent)
 {
@@ -15,3 +23,19 @@ oVIXLabelTitle::oVIXLabelTitle(QWidget *parent) : QLabel(parent)
 }
 
 oVIXLabelTitle::~oVIXLabelTitle() = default;
+
+QSize oVIXLabelTitle::sizeHint() const
+{
+    return ElidedText::sizeOf(this);
+}
+
+QSize oVIXLabelTitle::minimumSizeHint() const
+{
+    return ElidedText::sizeOf(this).boundedTo({narrowest, QWIDGETSIZE_MAX});
+}
+
+void oVIXLabelTitle::paintEvent(QPaintEvent *event)
+{
+    if (!ElidedText::paintShortened(this))
+        QLabel::paintEvent(event);
+}

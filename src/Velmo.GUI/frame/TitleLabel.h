@@ -1,33 +1,67 @@
 #pragma once
 
+#include "foundation/ShownText.h"
 #include "frame/TitleText.h"
 
 #include <QLabel>
+#include <QPainter>
 
-/// Shows a title and a subtitle in white and grey.
+/// Two texts on one line, white and grey, that end in an ellipsis where they do not fit. The label's text stays whole.
+/// Presses go to the strip that it lies on.
 ///
-/// The toolkit lays a rich text out six times to find the size of a label. Here both texts stand on one line, so their
-/// plain widths are enough.
+/// The toolkit lays a rich text out six times to find the size of a label. Here all stands on one line, so the plain
+/// widths are enough.
 class TitleLabel : public QLabel
 {
 public:
-    explicit TitleLabel(QWidget *parent) : QLabel(parent) { setTextFormat(Qt::RichText); }
-
-    void setTitle(const QString &title, const QString &subtitle)
+    explicit TitleLabel(QWidget *parent) : QLabel(parent)
     {
-        m_line = titleLine(title, subtitle);
-        setText(titleText(title, subtitle));
+        setTextFormat(Qt::RichText);
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+
+    void setTexts(const QString &white, const QString &grey)
+    {
+        m_white = ShownText::oneLine(white);
+        m_grey = ShownText::oneLine(grey);
+        setText(whiteAndGrey(white, grey));
     }
 
     QSize sizeHint() const override
     {
         ensurePolished();
-        const QSize text(fontMetrics().horizontalAdvance(m_line), fontMetrics().height());
-        return text.grownBy(contentsMargins());
+        const QSize texts(fontMetrics().horizontalAdvance(m_white + QLatin1Char(' ') + m_grey), fontMetrics().height());
+        return texts.grownBy(contentsMargins());
     }
 
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    QSize minimumSizeHint() const override { return {narrowest, sizeHint().height()}; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        if (sizeHint().width() <= width())
+            QLabel::paintEvent(event);
+        else
+            paintShortened();
+    }
 
 private:
-    QString m_line;
+    void paintShortened()
+    {
+        QPainter painter(this);
+        QRect room = contentsRect();
+        const auto write = [this, &painter, &room](const QString &text, const QColor &colour) {
+            const QString shown = fontMetrics().elidedText(text, Qt::ElideRight, room.width());
+            painter.setPen(colour);
+            painter.drawText(room, int(Qt::AlignVCenter) | Qt::TextSingleLine, shown);
+            room.setLeft(room.left() + fontMetrics().horizontalAdvance(shown + QLatin1Char(' ')));
+        };
+        write(m_white, Qt::white);
+        write(m_grey, titleGrey);
+    }
+
+    static constexpr int narrowest = 1;
+
+    QString m_white;
+    QString m_grey;
 };

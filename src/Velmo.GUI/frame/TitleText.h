@@ -5,6 +5,8 @@
 #include <QColor>
 #include <QString>
 
+inline const QColor titleGrey(156, 156, 156);
+
 /// Two texts on one line as rich text, white and grey. They are shown as typed: escaped, and with blanks that do not
 /// break.
 inline QString whiteAndGrey(const QString &white, const QString &grey)
@@ -14,17 +16,5 @@ inline QString whiteAndGrey(const QString &white, const QString &grey)
         shown.replace(QLatin1Char(' '), QLatin1String("&nbsp;"));
         return QStringLiteral("<font color=\"%1\"> %2</font>").arg(colour.name(), shown);
     };
-    return coloured(white, QColor(Qt::white)) + coloured(grey, QColor(156, 156, 156));
-}
-
-/// A title line "title: subtitle" in these colours.
-inline QString titleText(const QString &title, const QString &subtitle)
-{
-    return whiteAndGrey(title + QLatin1String(": "), subtitle);
-}
-
-/// The same line as plain text, to be measured.
-inline QString titleLine(const QString &title, const QString &subtitle)
-{
-    return ShownText::oneLine(title + QLatin1String(": ")) + QLatin1Char(' ') + ShownText::oneLine(subtitle);
+    return coloured(white, QColor(Qt::white)) + coloured(grey, titleGrey);
 }

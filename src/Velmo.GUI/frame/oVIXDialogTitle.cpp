@@ -28,8 +28,6 @@ QString titleSheet()
 oVIXDialogTitle::oVIXDialogTitle(QWidget *parent)
     : QFrame(parent), m_closeButton(new OvixSvgButton(this)), m_titleLabel(new TitleLabel(this))
 {
-    m_titleLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
-
     m_closeButton->setFixedSize(closeSide, closeSide);
     m_closeButton->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
     m_closeButton->setColorScheme(OvixSvgLabel::Charcoal);
@@ -56,7 +54,7 @@ oVIXDialogTitle::~oVIXDialogTitle() = default;
 void oVIXDialogTitle::setTitle(QString title, QString subtitle)
 {
     m_titleLabel->setFont(interFont(titlePixels));
-    m_titleLabel->setTitle(title, subtitle);
+    m_titleLabel->setTexts(title + u": "_s, subtitle);
 }
 
 void oVIXDialogTitle::setDragEnabled(bool enabled)

@@ -21,7 +21,7 @@ public:
     explicit oVIXDialogTitle(QWidget *parent);
     ~oVIXDialogTitle() override;
 
-    /// Both are plain text, shown as typed on one line.
+    /// Both are plain text, shown as typed on one line that ends in an ellipsis where it does not fit.
     void setTitle(QString title, QString subtitle);
     /// Off by default.
     void setDragEnabled(bool enabled);
