@@ -5,6 +5,7 @@
 #include "ui_oVIXDialogModalBase.h"
 
 #include <QCoreApplication>
+#include <QImageReader>
 #include <QPixmap>
 
 using namespace Qt::StringLiterals;
@@ -25,6 +26,16 @@ QString buttonSheet()
            "QPushButton:hover {"
            "   color: rgb(255,255,255);"
            "   font-weight: bold;}"_s;
+}
+
+/// The picture in the file with all the detail that a screen of this density shows in @p size.
+QPixmap loadDetailed(const QString &path, QSize size, qreal devicePixelRatio)
+{
+    QImageReader reader(path);
+    reader.setScaledSize(size * devicePixelRatio);
+    QPixmap picture = QPixmap::fromImageReader(&reader);
+    picture.setDevicePixelRatio(devicePixelRatio);
+    return picture;
 }
 
 } // namespace
@@ -73,7 +84,8 @@ void oVIXDialogModalBase::setLogoImg(const QString &path)
     QLabel *logo = m_ui->mainImgLabel;
     const QPixmap picture = loadScaledImg(path, logo->maximumWidth(), logo->maximumHeight());
     logo->setFixedSize(picture.size());
-    logo->setPixmap(picture);
+    const qreal ratio = devicePixelRatio();
+    logo->setPixmap(ratio > 1 && !picture.isNull() ? loadDetailed(path, picture.size(), ratio) : picture);
 }
 
 QPixmap oVIXDialogModalBase::scaleImg(const QPixmap &pixmap, int maxWidth, int)

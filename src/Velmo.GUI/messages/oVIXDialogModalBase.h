@@ -32,8 +32,8 @@ public:
     void addNewWebLink(const QString &text, const QString &target);
     /// The same for a link that starts a program.
     void addNewAppLink(const QString &text, const QString &target);
-    /// Shows a picture no wider than the logo label may be, and gives the label its size for good. A picture that
-    /// cannot be read takes no room.
+    /// Shows a picture no wider than the logo label may be, and gives the label its size for good. It is drawn for the
+    /// density of the screen that the dialog is on by then. A picture that cannot be read takes no room.
     void setLogoImg(const QString &path);
 
     /// @p pixmap in its proportions and at most @p maxWidth pixels wide. A picture has always a width, so @p maxHeight
