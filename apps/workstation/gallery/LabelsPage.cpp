@@ -156,6 +156,7 @@ void LabelsPage::addPictures()
     QList<Sample> scaled;
     for (const double ratio : {1.0, 1.5, 2.0, 3.0}) {
         auto *label = new QLabel;
+        label->setObjectName(u"otherDensity"_s); // than that of the screen, mostly
         const QPixmap picture = QPixmapScaling::scale(SamplePicture::draw(QSize(600, 400)), 96, 64, ratio);
         label->setPixmap(picture);
         scaled.append({label, tr("ratio %1: %2 × %3").arg(ratio).arg(picture.width()).arg(picture.height())});

@@ -13,9 +13,10 @@ constexpr int people = 90;
 
 } // namespace
 
-QPixmap SamplePicture::draw(QSize size)
+QPixmap SamplePicture::draw(QSize size, qreal devicePixelRatio)
 {
-    QPixmap picture(size);
+    QPixmap picture(size * devicePixelRatio);
+    picture.setDevicePixelRatio(devicePixelRatio);
     picture.fill(QColor(65, 84, 92));
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);

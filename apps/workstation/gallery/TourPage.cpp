@@ -66,7 +66,7 @@ QWidget *TourPage::createTour(int step, float progress)
 {
     auto *window = new QLabel;
     window->setFixedSize(windowSize);
-    window->setPixmap(SamplePicture::draw(windowSize));
+    window->setPixmap(SamplePicture::draw(windowSize, devicePixelRatio()));
     auto *tour = new oVIXGuideOverlay(window);
     for (const auto &added : m_steps)
         tour->addStep(added.get());

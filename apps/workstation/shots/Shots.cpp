@@ -22,7 +22,6 @@
 #include <QPixmap>
 #include <QProcess>
 #include <QPushButton>
-#include <QScreen>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -39,6 +38,7 @@ namespace {
 
 constexpr auto longestReading = 60s;
 constexpr int longestProcess = 10 * 60 * 1000;
+constexpr QPoint nowhere(30000, 30000); // beyond the longest page, which may be longer than the screen
 
 /// Counts the toolkit's warnings while it lives, and passes them on.
 class WarningCounter
@@ -267,7 +267,7 @@ int Shots::draw(const QString &folder, const QString &projectsFolder, double sca
     QSettings::setDefaultFormat(QSettings::IniFormat);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
     QApplication::setCursorFlashTime(0);
-    QCursor::setPos(QGuiApplication::primaryScreen()->virtualGeometry().bottomRight()); // over nothing
+    QCursor::setPos(nowhere);
     PictureFolder pictures(folder, scale);
     const bool windowDrawn = drawWindow(pictures, projectsFolder);
     const bool galleryDrawn = drawGallery(pictures);
