@@ -99,9 +99,10 @@ private slots:
         button.setIcon(u":/Windows/AddButton"_s);
         QVERIFY(button.sizeHint().width() > bare);
         button.resize(120, 30);
-        /// The first and the last column with a colour of this blue.
-        const auto columns = [&button](int blue) {
-            const QImage image = Picture::of(&button);
+        const qreal scale = button.devicePixelRatio(); // the icon's too
+        /// The first and the last column of device pixels with a colour of this blue.
+        const auto columns = [&button, scale](int blue) {
+            const QImage image = Picture::of(&button, scale);
             QRect found;
             for (int x = 0; x < image.width(); ++x)
                 for (int y = 0; y < image.height(); ++y) {
@@ -114,9 +115,9 @@ private slots:
         for (const Qt::Alignment alignment : {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter}) {
             button.setAlignment(alignment | Qt::AlignVCenter);
             const int gap = columns(0).left() - columns(255).right();
-            QVERIFY(gap > 0 && gap < 16);
+            QVERIFY(gap > 0 && gap < 16 * scale);
         }
-        QVERIFY(qAbs(columns(255).left() - (119 - columns(0).right())) <= 3);
+        QVERIFY(qAbs(columns(255).left() - (120 * scale - 1 - columns(0).right())) <= 3 * scale);
         button.setEnabled(false);
         QVERIFY(columns(255).isNull()); // dimmed
         button.setIcon(QString());

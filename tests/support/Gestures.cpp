@@ -35,8 +35,12 @@ void Gestures::focus(QWidget *widget)
 
 void Gestures::hover(QWidget *widget, QPoint point)
 {
+    QWindow *window = windowOf(widget);
+    const QPoint place = widget->mapTo(widget->window(), point);
     QCursor::setPos(widget->mapToGlobal(point));
-    QTest::mouseMove(windowOf(widget), widget->mapTo(widget->window(), point));
+    // The platform tells of it too, from scaled points that it takes for unscaled ones: the last word is not its.
+    QCoreApplication::processEvents();
+    QTest::mouseMove(window, place);
     QCoreApplication::processEvents();
 }
 

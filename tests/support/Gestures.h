@@ -6,8 +6,8 @@
 class QWidget;
 
 /// What a user does with the pointer, sent through the window so that the toolkit's own bookkeeping (widget under the
-/// pointer, enter and leave, the pressed widget) follows. Points are in the widget's coordinates. The offscreen
-/// platform takes scaled points for unscaled ones, so at scale 2 the pointer leaves a window beyond half its size.
+/// pointer, enter and leave, the pressed widget) follows. Points are in the widget's coordinates. At other scales than 1
+/// the pointer may pass over another widget on its way.
 namespace Gestures {
 
 /// Shows @p window and waits until it is on screen.
