@@ -37,6 +37,8 @@ public:
     QRegion paintedElsewhere() const
     {
         QRegion elsewhere = m_painted - m_touched - placeOf(below());
+        if (elsewhere.isEmpty())
+            return elsewhere;
         // The markers of a timebar fade some time after the pointer has left.
         const QList<oVIXTimebarWidget *> timebars = m_window->findChildren<oVIXTimebarWidget *>();
         for (const oVIXTimebarWidget *timebar : timebars)
@@ -125,8 +127,7 @@ QList<QPoint> placesIn(const QWidget *window)
     const QList<QWidget *> widgets = window->findChildren<QWidget *>();
     for (const QWidget *widget : widgets) {
         const QPoint middle = widget->mapTo(window, widget->rect().center());
-        if (widget->window() == window && widget->isVisible() && widget->height() <= highest
-            && window->rect().contains(middle))
+        if (widget->window() == window && widget->height() <= highest && !widget->visibleRegion().isEmpty())
             places << middle;
     }
     return places;
