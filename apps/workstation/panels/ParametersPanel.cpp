@@ -36,6 +36,16 @@ ParametersPanel::ParametersPanel(QMainWindow *window)
     layout->setSpacing(8);
     layout->setAlignment(Qt::AlignTop);
 
+    // In its place before it is filled: all that a widget holds is styled anew when it moves.
+    auto *area = new QScrollArea(this);
+    area->setStyleSheet(Sheets::clearScrollArea());
+    area->verticalScrollBar()->setStyleSheet(Sheets::scrollBar());
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidgetResizable(true);
+    area->setMinimumWidth(panelWidth);
+    setWidget(area);
+    area->setWidget(m_content);
+
     VelmoCurtainWidget *view = addSection(tr("View"), tr("what is shown, and how"));
     oVIXCombo *colours = addCombo(view, tr("Colour by"));
     for (const auto &[text, value] :
@@ -62,17 +72,8 @@ ParametersPanel::ParametersPanel(QMainWindow *window)
     vehicles->setChecked(m_options.vehicles);
     onChoice(vehicles, [this, vehicles] { m_options.vehicles = vehicles->isChecked(); });
 
-    m_crowd = new CrowdEditor(m_content);
+    m_crowd = new CrowdEditor(nullptr);
     addSection(tr("Crowd"), tr("who walks, and how"))->addToContainerWidget(m_crowd);
-
-    auto *area = new QScrollArea;
-    area->setStyleSheet(Sheets::clearScrollArea());
-    area->verticalScrollBar()->setStyleSheet(Sheets::scrollBar());
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setWidgetResizable(true);
-    area->setWidget(m_content);
-    area->setMinimumWidth(panelWidth);
-    setWidget(area);
 }
 
 CrowdEditor *ParametersPanel::crowd() const
