@@ -1,6 +1,7 @@
 #include "support/Gestures.h"
 
 #include <QCursor>
+#include <QGuiApplication>
 #include <QTest>
 #include <QWidget>
 #include <QWindow>
@@ -38,8 +39,10 @@ void Gestures::hover(QWidget *widget, QPoint point)
     QWindow *window = windowOf(widget);
     const QPoint place = widget->mapTo(widget->window(), point);
     QCursor::setPos(widget->mapToGlobal(point));
-    // The platform tells of it too, from scaled points that it takes for unscaled ones: the last word is not its.
-    QCoreApplication::processEvents();
+    // The platform tells of it too, from scaled points that it takes for unscaled ones: the last word is not its. In
+    // the middle of a drag it would be a step of that.
+    if (QGuiApplication::mouseButtons() == Qt::NoButton)
+        QCoreApplication::processEvents();
     QTest::mouseMove(window, place);
     QCoreApplication::processEvents();
 }
