@@ -27,7 +27,7 @@ class Application(unittest.TestCase):
         shutil.copytree(PROJECTS, folder / "projects")
         arguments = self.arguments or [folder / "projects"]
         self.app, self.process = self.enterContext(running(PROGRAM, *arguments, settings=folder))
-        self.window = self.app.find("frame")
+        self.window = self.app.children[0]
 
     def assert_usable(self, root=None):
         self.assertEqual([], (root or self.app).faults())
@@ -160,11 +160,10 @@ class Editor(Application):
     def test_tags(self):
         assigned = self.window.find("list", "Assigned")
         available = self.window.find("list", "Available")
-        tag = next(tag.name for tag in available.search("list item") if tag.name != "Add")
+        tag = wait("a tag", lambda: [tag for tag in assigned.search("list item") if tag.name != "Add"])[0].name
+        assigned.find("list item", tag).find("push button", "Remove").press()
         available.find("list item", tag).press()
-        moved = assigned.find("list item", tag)
-        moved.find("push button", "Remove").press()
-        available.find("list item", tag)
+        assigned.find("list item", tag)
 
 
 class Gallery(Application):

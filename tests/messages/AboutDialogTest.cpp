@@ -61,6 +61,7 @@ private slots:
                  QStringList({u"Credits: J\u00f6rg"_s, u"End-user terms: "_s, u"Third-party notices: J\u00f6rg"_s}));
         auto *tabs = dialog.findChild<QTabBar *>();
         const QPoint edge = tabs->tabRect(0).topLeft() + QPoint(20, 0);
+        tabs->clearFocus();
         QVERIFY(Picture::colourAt(tabs, edge) != QColor(116, 211, 252));
         Gestures::focus(tabs);
         QCOMPARE(Picture::colourAt(tabs, edge), QColor(116, 211, 252)); // where the keyboard is
