@@ -115,11 +115,6 @@ private slots:
         row("snaps the offset", snappedRatio(0.5, 0.005, 1.005, false), 0.5);
         row("snaps without a range", snappedRatio(0.5, 3, 3, true), 0.0);
         row("snaps the huge", snappedRatio(0.5, 0, 1e300, true), double(2147483647.0F) / 1e300);
-        row("whole of nothing", saturatedInt(std::nan("")), 0);
-        row("whole of the lowest", saturatedInt(-infinite), std::numeric_limits<int>::min());
-        row("towards 0", saturatedInt(-1.9), -1);
-        row("midway", movesMaximum(0.5, 0.25, 0.75, false), 0);
-        row("together at the bottom", movesMaximum(0.5, 0, 0, true), 1);
     }
     void computes()
     {
