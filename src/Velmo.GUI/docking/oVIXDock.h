@@ -67,7 +67,8 @@ signals:
     void closeClicked();
     /// The user has chosen a size of preview pictures: 0 for none, 100, 150 or 200.
     void thumbClicked(int size);
-    /// The text of the search field has changed. Clearing the search repeats the empty text.
+    /// The text of the search field has changed. Clearing the search repeats the empty text. A receiver that is done
+    /// with the panel deletes it later: the field is still at work.
     void s_search(QString s);
     /// The search is being cleared.
     void s_clearoptions();

@@ -81,7 +81,8 @@ signals:
     /// The user has cleared the search. `s_search` with an empty text comes after it, and before it too if there was
     /// text to clear.
     void s_clearoptions();
-    /// The text of the search field has changed.
+    /// The text of the search field has changed. A receiver that is done with the header deletes it later: the field is
+    /// still at work.
     void s_search(QString s);
 
 public slots:
