@@ -161,6 +161,8 @@ void ScenePage::setFrames(int frames)
 void ScenePage::takeOverCrop()
 {
     m_timebar->constrainPlayTimeToCropValues();
+    if (m_bake.computedFrames() > 0)
+        showFrame(m_timebar->getCurrentPlayValue());
     // An end that nobody has moved stays, also when it is beyond the frames that there are room for.
     const auto [first, last] = cropOf(m_scene, m_timebar->getMax());
     const bool isNew = !m_scene.hasCrop();
