@@ -1,6 +1,7 @@
 #include "monkey/SenderTables.h"
 
 #include "OvixMovableLabel.h"
+#include "OvixSvgButton.h"
 #include "oVIXPieChartWidget.h"
 #include "oVIXProgressBar.h"
 #include "oVIXSliderBar.h"
@@ -162,10 +163,8 @@ QList<Senders::Sender> Senders::ofValues()
         if (set)
             set->setValueMin(30);
     });
-    const Act clickState = with<QWidget>([](QWidget *toggle) {
-        QTest::mouseClick(toggle->window()->windowHandle(), Qt::LeftButton, {},
-                          toggle->mapTo(toggle->window(), QPoint(48, 16)));
-    });
+    const Act clickState =
+        with<QWidget>([](QWidget *toggle) { Gestures::click(toggle->findChildren<OvixSvgButton *>().constLast()); });
     return {
         {"oVIXSliderBar",
          [](QWidget *host) {
