@@ -6,8 +6,8 @@
 class QWidget;
 
 /// What a user does with the pointer, sent through the window so that the toolkit's own bookkeeping (widget under the
-/// pointer, enter and leave, the pressed widget) follows. Points are in the widget's coordinates. At other scales than 1
-/// the pointer may pass over another widget on its way.
+/// pointer, enter and leave, the pressed widget) follows. Points are in the widget's coordinates. At other scales than
+/// 1 the pointer may pass over another widget on its way.
 namespace Gestures {
 
 /// Shows @p window and waits until it is on screen.

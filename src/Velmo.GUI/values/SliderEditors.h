@@ -19,6 +19,7 @@ public:
     explicit SliderEditors(const Ui::oVIXSliderWidget &form);
 
     void setMode(oVIXSliderWidget::SLIDERMODE mode) { m_mode = mode; }
+    oVIXSliderWidget::SLIDERMODE mode() const { return m_mode; }
     bool isRange() const;
     bool isInteger() const;
     bool isLateral() const;

@@ -419,6 +419,11 @@ void oVIXSliderWidget::fnValueFinished()
         this, [this] { updateMinLimits(); }, [this] { emit valueFinished(); });
 }
 
+oVIXSliderWidget::SLIDERMODE oVIXSliderWidget::mode() const
+{
+    return m_editors->mode();
+}
+
 double oVIXSliderWidget::snapRatio(double ratio) const
 {
     return SliderRules::snappedRatio(ratio, m_editors->lowerLimit(), m_sliderMaximum, m_snapToInteger);

@@ -39,7 +39,7 @@ class VELMO_GUI_EXPORT oVIXSliderWidget : public QAbstractSpinBox
 {
     Q_OBJECT
     // For forms, in the order that they are set in: each is limited by those before it. See the setters.
-    Q_PROPERTY(SLIDERMODE mode MEMBER m_mode WRITE changeMode)
+    Q_PROPERTY(SLIDERMODE mode READ mode WRITE changeMode)
     Q_PROPERTY(double minimum READ minimum WRITE setMinimum)
     Q_PROPERTY(double sliderMaximum READ sliderMaximum WRITE setSliderMaximum)
     Q_PROPERTY(double spinBoxMaximum READ spinBoxMaximum WRITE setSpinBoxMaximum)
@@ -162,6 +162,7 @@ private slots:
 private:
     friend class AccessibleSliderWidget;
 
+    SLIDERMODE mode() const;
     double snapRatio(double ratio) const;
     double ratioOfMinimum() const;
     double ratioOfValue() const;
