@@ -92,6 +92,8 @@ private slots:
         Box box(u"WARNING"_s, u"Title"_s, false, nullptr, nullptr);
         box.setText(u"Short"_s);
         QCOMPARE(box.size(), QSize(500, 200));
+        box.setText(u"Two lines, <b>each of which would have to be broken often in a narrow view.</b><br>The other."_s);
+        QCOMPARE(box.height(), 200);
         box.setText(u"words "_s.repeated(150));
         auto *browser = part<QTextBrowser>(&box, "textBrowser");
         const int needed = box.height();

@@ -6,9 +6,13 @@
 
 #include "ui_VelmoMessageWidget.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QAccessible>
 #include <QApplication>
+#include <QSignalBlocker>
 #include <QTimer>
+
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -128,9 +132,15 @@ void VelmoMessageWidget::setText(QString text)
         browser->setText(shown);
     browser->setAlignment(Qt::AlignVCenter);
     document->setLayoutEnabled(true);
-    // As wide as it is going to be shown: a browser that was never shown lays its text out in a narrow column.
-    const QMargins margins = layout()->contentsMargins();
-    document->setTextWidth(width() - margins.left() - margins.right() - 2 * bodyPadding);
+    {
+        // As wide as it is going to be shown. A browser that was never shown has a narrow view, and would lay the text
+        // out for that one as soon as it heard of another size.
+        std::optional<QSignalBlocker> unheard;
+        if (!browser->isVisible())
+            unheard.emplace(document->documentLayout());
+        const QMargins margins = layout()->contentsMargins();
+        document->setTextWidth(width() - margins.left() - margins.right() - 2 * bodyPadding);
+    }
     resize(width(),
            boxHeight(minimumHeight(), browser->minimumHeight(), browser->maximumHeight(), document->size().height()));
     setAccessibleDescription(browser->toPlainText());
