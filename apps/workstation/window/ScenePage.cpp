@@ -84,9 +84,7 @@ void ScenePage::setScene(const Scene &scene, const CrowdSettings &settings)
     m_view->setScene(m_scene);
     showCrowd();
     updateModified();
-    m_facts->showNote(tr("%1: %2 people, %3 vehicles, %4")
-                          .arg(scene.name, QString::number(m_scene.crowdSize()), QString::number(scene.vehicles.size()),
-                               scene.groundName));
+    showFacts();
 }
 
 const Scene &ScenePage::scene() const
@@ -104,7 +102,7 @@ void ScenePage::setSaved(const Scene &saved)
     m_saved = saved;
     m_scene.document = saved.document;
     m_scene.version = saved.version;
-    m_facts->showNote(tr("\"%1\" has been saved.").arg(saved.name));
+    m_facts->showNote(savedNote());
     updateModified();
 }
 
@@ -180,7 +178,26 @@ void ScenePage::updateModified()
         return;
     m_isModified = isModified;
     m_unsaved->setVisible(isModified);
+    if (isModified && m_facts->text() == savedNote())
+        showFacts();
     emit modifiedChanged(isModified);
+}
+
+QString ScenePage::savedNote() const
+{
+    return tr("\"%1\" has been saved.").arg(m_saved.name);
+}
+
+void ScenePage::showFacts()
+{
+    const auto counted = [](qsizetype count, const QString &one, const QString &many) {
+        return count == 1 ? one : many.arg(count);
+    };
+    QStringList facts{counted(m_scene.crowdSize(), tr("1 person"), tr("%1 people")),
+                      counted(m_scene.vehicles.size(), tr("1 vehicle"), tr("%1 vehicles"))};
+    if (!m_scene.groundName.isEmpty())
+        facts << m_scene.groundName;
+    m_facts->showNote(tr("%1: %2").arg(m_scene.name, facts.join(u", "_s)));
 }
 
 void ScenePage::toggleBaking()

@@ -64,6 +64,9 @@ private:
     void setFrames(int frames);
     void takeOverCrop();
     void updateModified();
+    /// What the status line says after saving.
+    QString savedNote() const;
+    void showFacts();
     /// Whether frames may be replaced. The page may be gone afterwards, and then they may not.
     bool askToReplaceFrames();
     void showBaked();
