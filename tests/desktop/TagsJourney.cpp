@@ -1,6 +1,7 @@
 #include "desktop/Journey.h"
 #include "desktop/RealInput.h"
 
+#include "QClickableLabel.h"
 #include "VelmoMessageBox.h"
 #include "oVIXCombo.h"
 #include "oVIXDragDropListWidget.h"
@@ -41,7 +42,7 @@ private slots:
         QTRY_COMPARE(tags(), u"luggage,staff,transfer|commuter"_s);
         QVERIFY(shownTags(u"luggage"_s)); // they have it again
 
-        click(seen<QWidget>(u"Add"_s, list(u"Available"_s)));
+        click(seen<QClickableLabel>(u"Add"_s, list(u"Available"_s)));
         QTRY_VERIFY(qobject_cast<QLineEdit *>(QApplication::focusWidget()));
         RealInput::type(u"delayed"_s);
         keep(u"typing"_s);
@@ -52,7 +53,7 @@ private slots:
             keep(u"question"_s);
             RealInput::key(u"Return"_s);
         });
-        click(seen<QWidget>(u"Remove"_s, seen<oVIXDragTag>(u"commuter"_s, panel())));
+        click(seen<QClickableLabel>(u"Remove"_s, seen<oVIXDragTag>(u"commuter"_s, panel())));
         QTRY_COMPARE(tags(), u"luggage,staff,transfer|delayed"_s);
         keep(u"deleted"_s);
     }
