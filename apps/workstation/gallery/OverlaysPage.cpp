@@ -142,9 +142,9 @@ void OverlaysPage::addRunningWait()
     const auto addButton = [this, layout](const QString &text, void (oVIXMainWindow::*start)()) {
         auto *button = new QPushButton(text);
         layout->addWidget(button);
-        connect(button, &QPushButton::clicked, this, [this, start] {
-            m_job->start();
-            (m_window->*start)(); // processes events: the page may be gone afterwards
+        connect(button, &QPushButton::clicked, this, [job = m_job, window = m_window, start] {
+            job->start();
+            (window->*start)(); // processes events: the page may be gone afterwards
         });
     };
     addButton(tr("Wait"), &oVIXMainWindow::startWait);

@@ -2,9 +2,21 @@
 
 #include <QRectF>
 
+#include <algorithm>
 #include <cmath>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
+
+bool SceneMover::operator==(const SceneMover &other) const
+{
+    const auto facts = [](const SceneMover &mover) {
+        return std::tie(mover.name, mover.type, mover.position, mover.goal, mover.hasGoal, mover.heading,
+                        mover.preferredSpeed, mover.maximumSpeed);
+    };
+    // The toolkit compares lists of numbers by their bytes, which empty ones do not have.
+    return facts(*this) == facts(other) && std::equal(tags.begin(), tags.end(), other.tags.begin(), other.tags.end());
+}
 
 QColor Scene::colourOf(const SceneMover &mover) const
 {

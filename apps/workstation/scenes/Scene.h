@@ -37,7 +37,7 @@ struct SceneMover
     double maximumSpeed = 2.5;
     QList<int> tags;
 
-    bool operator==(const SceneMover &) const = default;
+    bool operator==(const SceneMover &other) const;
 };
 
 /// What a scene file holds. The plane has its origin in the middle of the ground, and y points up.
