@@ -34,3 +34,17 @@ function(velmo_compile_settings target)
         target_link_options(${target} PRIVATE -fsanitize=${VELMO_SANITIZE})
     endif()
 endfunction()
+
+# velmo_precompile(<target> <header>...)
+#
+# Has the headers that most widgets' sources include, and these, read once for the whole target if
+# VELMO_PRECOMPILED_HEADERS asks for it.
+function(velmo_precompile target)
+    if(VELMO_PRECOMPILED_HEADERS)
+        target_precompile_headers(${target} PRIVATE
+            <QApplication> <QBoxLayout> <QDateTime> <QDir> <QFile> <QHash> <QLabel> <QLineEdit> <QListWidget> <QMenu>
+            <QMouseEvent> <QPainter> <QPointer> <QPushButton> <QSet> <QTimer> <QVariant> <QWindow>
+            <algorithm> <functional> <memory> <optional>
+            ${ARGN})
+    endif()
+endfunction()

@@ -6,14 +6,14 @@
 using namespace Qt::StringLiterals;
 
 /// The linker drops the resources of a static library that nobody asks for.
-static void useResources()
+static void useWording()
 {
     Q_INIT_RESOURCE(Wording);
 }
 
 bool Wording::install()
 {
-    useResources();
+    useWording();
     auto *translator = new QTranslator(QCoreApplication::instance());
     return translator->load(u":/Wording/velmo_en.qm"_s) && QCoreApplication::installTranslator(translator);
 }

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int mostPeople = 2000;
 constexpr int lockedRole = Qt::UserRole + 1;
-constexpr int typeRole = Qt::UserRole + 2;
+constexpr int shareTypeRole = Qt::UserRole + 2;
 
 } // namespace
 
@@ -77,7 +77,7 @@ void CrowdEditor::setScene(const Scene &scene)
         row->setData(share.type.isEmpty() ? tr("Without type") : share.type, Qt::AccessibleTextRole);
         row->setData(float(share.percent), Qt::EditRole);
         row->setData(false, lockedRole);
-        row->setData(share.type, typeRole);
+        row->setData(share.type, shareTypeRole);
         m_shares->appendRow(row);
     }
     m_pie->setVisible(m_shares->rowCount() > 0);
@@ -96,7 +96,8 @@ CrowdSettings CrowdEditor::settings() const
     settings.seed = int(m_seed->value());
     for (int row = 0; row < m_shares->rowCount(); ++row) {
         const QStandardItem *share = m_shares->item(row);
-        settings.shares << CrowdSettings::Share{share->data(typeRole).toString(), share->data(Qt::EditRole).toDouble()};
+        settings.shares << CrowdSettings::Share{share->data(shareTypeRole).toString(),
+                                                share->data(Qt::EditRole).toDouble()};
     }
     return settings;
 }

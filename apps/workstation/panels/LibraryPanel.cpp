@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int typeRole = Qt::UserRole;
+constexpr int entryTypeRole = Qt::UserRole;
 constexpr int textHeight = 24;
 
 } // namespace
@@ -84,7 +84,7 @@ void LibraryPanel::fill()
     for (const LibraryEntry &entry : std::as_const(m_entries)) {
         const QString name = entry.type.isEmpty() ? tr("Without type") : entry.type;
         auto *item = new QStandardItem(tr("%1, %2").arg(name, QString::number(entry.count)));
-        item->setData(entry.type, typeRole);
+        item->setData(entry.type, entryTypeRole);
         item->setTextAlignment(side > 0 ? Qt::AlignHCenter : Qt::AlignLeft);
         if (side > 0)
             item->setIcon(entry.picture(side, devicePixelRatio()));
@@ -101,13 +101,13 @@ void LibraryPanel::fill()
 QString LibraryPanel::selectedType() const
 {
     const QModelIndexList selected = m_list->selectionModel()->selectedIndexes();
-    return selected.isEmpty() ? QString() : selected.first().data(typeRole).toString();
+    return selected.isEmpty() ? QString() : selected.first().data(entryTypeRole).toString();
 }
 
 QModelIndex LibraryPanel::indexOf(const QString &type) const
 {
     if (type.isEmpty())
         return {};
-    const QModelIndexList found = m_found->match(m_found->index(0, 0), typeRole, type, 1, Qt::MatchExactly);
+    const QModelIndexList found = m_found->match(m_found->index(0, 0), entryTypeRole, type, 1, Qt::MatchExactly);
     return found.value(0);
 }

@@ -30,7 +30,7 @@ QString exactly(double number)
 
 QString lineBreak(int depth)
 {
-    return u'\n' + QString(4 * depth, u' ');
+    return u'\n' + QString(qsizetype(4) * depth, u' ');
 }
 
 QString joined(const QList<int> &ids)

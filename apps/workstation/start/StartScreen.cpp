@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize smallestSize(1100, 560);
-constexpr int gap = 16;
+constexpr int panelGap = 16;
 constexpr int panelMargin = 20; // that of the panel of scenes
 /// How the panels share what a wide window has.
 constexpr int projectsStretch = 1;
@@ -69,8 +69,8 @@ StartScreen::StartScreen(const QString &folder, QWidget *parent)
     header->setSubtitle(QDir::toNativeSeparators(folder));
 
     auto *panels = new QHBoxLayout;
-    panels->setContentsMargins(gap, gap, gap, gap);
-    panels->setSpacing(gap);
+    panels->setContentsMargins(panelGap, panelGap, panelGap, panelGap);
+    panels->setSpacing(panelGap);
     panels->addWidget(createProjectsPanel(), projectsStretch);
     panels->addWidget(createScenesPanel(), scenesStretch);
 

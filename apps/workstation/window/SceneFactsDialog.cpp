@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int dialogWidth = 480;
+constexpr int factsWidth = 480;
 
 } // namespace
 
@@ -23,7 +23,7 @@ SceneFactsDialog::SceneFactsDialog(const Scene &scene, QWidget *parent)
     setupTitle(tr("SCENE"), scene.name);
     setWindowTitle(tr("Facts of %1").arg(scene.name));
     setDragEnabled(true);
-    setFixedWidth(dialogWidth);
+    setFixedWidth(factsWidth);
 
     auto *form = new QFormLayout;
     form->setHorizontalSpacing(24);

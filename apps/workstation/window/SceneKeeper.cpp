@@ -97,7 +97,7 @@ SceneSaving::Outcome SceneKeeper::write(SceneSaving::ChangedFile changed)
     QTimer report; // shows the overlay when it takes long
     connect(&report, &QTimer::timeout, m_window, [this] { m_window->getWindowWait()->progressEvent(QString()); });
     report.start(overlayInterval);
-    const SceneSaving::Outcome outcome = SceneSaving::saveInBackground(m_page->scene(), changed);
+    SceneSaving::Outcome outcome = SceneSaving::saveInBackground(m_page->scene(), changed);
     if (window)
         window->endWait();
     return outcome;

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int dialogWidth = 480;
+constexpr int welcomeWidth = 480;
 
 } // namespace
 
@@ -23,7 +23,7 @@ WelcomeDialog::WelcomeDialog(const QString &projectsFolder, QWidget *window) : o
     setupTitle(tr("WELCOME"), QGuiApplication::applicationDisplayName());
     setWindowTitle(tr("Welcome"));
     setDragEnabled(true);
-    setFixedWidth(dialogWidth);
+    setFixedWidth(welcomeWidth);
     setLogoImg(u":/Workstation/Logo"_s);
     addTitleLabel(
         tr("%1, release %2").arg(QGuiApplication::applicationDisplayName(), VelmoVersion::current().toString()));

@@ -43,7 +43,7 @@ constexpr auto panelsKey = "window/panels";
 } // namespace
 
 /// The linker drops the pictures of a static library that nobody asks for.
-static void useResources()
+static void useIcons()
 {
     Q_INIT_RESOURCE(Workstation);
 }
@@ -254,7 +254,7 @@ void WorkstationWindow::createMenus()
 
 void WorkstationWindow::createTitleBar()
 {
-    useResources();
+    useIcons();
     m_titleBar = new oVIXTitleBar(menuBar(), true, true, true);
     m_titleBar->setLogo(u":/Workstation/Logo"_s, logoSize);
     connect(m_titleBar, &oVIXTitleBar::minimized, this, &QWidget::showMinimized);
