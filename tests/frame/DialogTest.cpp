@@ -11,6 +11,7 @@
 #include "frame/oVIXDialogTitle.h"
 #include "frame/oVIXWindowWait.h"
 
+#include <QLabel>
 #include <QMouseEvent>
 #include <QScopeGuard>
 #include <QScreen>
@@ -106,6 +107,19 @@ private slots:
         Gestures::show(&dialog);
         dialog.resize(300, 130);
         QCOMPARE(dialog.findChild<oVIXDialogTitle *>()->width(), 300);
+    }
+
+    void growsWithItsContentBetweenShows()
+    {
+        oVIXDialog dialog(false, false, false, nullptr, nullptr);
+        auto *label = new QLabel(u"short"_s);
+        label->setMinimumWidth(1);
+        (new QVBoxLayout(&dialog))->addWidget(label);
+        Gestures::show(&dialog);
+        dialog.hide();
+        label->setText(u"far longer "_s.repeated(4));
+        Gestures::show(&dialog);
+        QVERIFY(label->width() >= label->sizeHint().width());
     }
 
     void closesOnlyWhenItMay()

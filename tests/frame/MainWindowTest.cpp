@@ -290,7 +290,7 @@ private slots:
         }
         QSignalSpy triggered(window.menuBar()->actions().at(1), &QAction::triggered);
         bar->child(1)->actionInterface()->doAction(press);
-        QCOMPARE(triggered.size(), 1);
+        QTRY_COMPARE(triggered.size(), 1);
         bar->child(0)->actionInterface()->doAction(showMenu);
         QVERIFY(scene->isVisible() && bar->child(0)->state().expanded);
         QCOMPARE(bar->child(0)->child(0), Assistive::of(scene));

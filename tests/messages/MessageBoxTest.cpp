@@ -17,6 +17,7 @@
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBrowser>
@@ -30,6 +31,7 @@
 #include <climits>
 #include <ctime>
 #include <functional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -106,6 +108,9 @@ private slots:
         browser->setText(u"words "_s.repeated(150));
         QVERIFY(Events::untilIdle());
         QCOMPARE(200 + int(browser->document()->size().height()) - 82, needed);
+        box.setText(u"words "_s.repeated(800));
+        QVERIFY(browser->verticalScrollBar()->maximum() > 0);
+        QCOMPARE(browser->horizontalScrollBar()->maximum(), 0);
 
         onceModal<Box>([](Box *shown) {
             QCOMPARE(shown->height(), 330);
@@ -252,6 +257,20 @@ private slots:
         delete box;
         copy.setButtonText(u"Go"_s);
         QCOMPARE(copy.exec(), MsgRejected);
+    }
+
+    void itsHolderMayGoOrAskAgainWhileItRuns()
+    {
+        QWidget parent;
+        auto *holder = new VelmoMessageClass(u"K"_s, u"t"_s, u"text"_s, false, 0, &parent, nullptr);
+        onceModal<Box>([&holder](Box *box) {
+            QCOMPARE(holder->exec(), MsgRejected);
+            QVERIFY(box->isVisible());
+            delete std::exchange(holder, nullptr);
+            box->fnAccept();
+        });
+        QCOMPARE(holder->exec(), MsgAccepted);
+        QVERIFY(!holder);
     }
 
     void holdsItsButtonsBack()

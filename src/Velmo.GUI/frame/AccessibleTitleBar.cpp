@@ -86,7 +86,7 @@ public:
         if (!actionNames().contains(action))
             return;
         if (!menu())
-            m_action->trigger();
+            QMetaObject::invokeMethod(m_action, &QAction::trigger, Qt::QueuedConnection); // it may open a dialog
         else if (menu()->isVisible())
             menu()->close();
         else
@@ -126,6 +126,7 @@ public:
             known = m_titles.end();
         }
         if (known == m_titles.end()) {
+            forgetDeleted();
             auto *title = new AccessibleMenuTitle(bar(), actions[index]);
             known = m_titles.insert(actions[index], QAccessible::registerAccessibleInterface(title));
         }
@@ -152,6 +153,18 @@ private:
     static const AccessibleMenuTitle *titleOf(QAccessible::Id id)
     {
         return static_cast<AccessibleMenuTitle *>(QAccessible::accessibleInterface(id));
+    }
+
+    void forgetDeleted() const
+    {
+        for (auto i = m_titles.begin(); i != m_titles.end();) {
+            if (titleOf(*i)->action()) {
+                ++i;
+            } else {
+                QAccessible::deleteAccessibleInterface(*i);
+                i = m_titles.erase(i);
+            }
+        }
     }
 
     /// By action; a later action may have the address of an earlier one.

@@ -156,8 +156,10 @@ void oVIXDialog::resizeEvent(QResizeEvent *event)
 void oVIXDialog::prepareToShow()
 {
     ensurePolished();
-    if (!testAttribute(Qt::WA_Resized))
+    if (!testAttribute(Qt::WA_Resized)) {
         adjustSize();
+        setAttribute(Qt::WA_Resized, false); // its content may have grown until the next time
+    }
     adjustToTitle();
     autocenter();
 }

@@ -12,8 +12,6 @@
 #include <QSignalBlocker>
 #include <QTimer>
 
-#include <optional>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -74,8 +72,11 @@ public:
         return box;
     }
 
-    static VelmoMsgReturnCode run(const QPointer<VelmoMessageWidget> &box)
+    /// Takes a pointer of its own: whoever holds the box may go while it runs.
+    static VelmoMsgReturnCode run(QPointer<VelmoMessageWidget> box)
     {
+        if (box->isVisible())
+            return MsgRejected; // it runs already, and goes on
         box->startMinimumWaitTimer();
         const auto code = VelmoMsgReturnCode(box->exec());
         if (box)
@@ -132,18 +133,24 @@ void VelmoMessageWidget::setText(QString text)
         browser->setText(shown);
     browser->setAlignment(Qt::AlignVCenter);
     document->setLayoutEnabled(true);
-    {
-        // As wide as it is going to be shown. A browser that was never shown has a narrow view, and would lay the text
-        // out for that one as soon as it heard of another size.
-        std::optional<QSignalBlocker> unheard;
-        if (!browser->isVisible())
-            unheard.emplace(document->documentLayout());
-        const QMargins margins = layout()->contentsMargins();
-        document->setTextWidth(width() - margins.left() - margins.right() - 2 * bodyPadding);
-    }
-    resize(width(),
-           boxHeight(minimumHeight(), browser->minimumHeight(), browser->maximumHeight(), document->size().height()));
+    resize(width(), boxHeight(minimumHeight(), browser->minimumHeight(), browser->maximumHeight(), bodyHeight()));
     setAccessibleDescription(browser->toPlainText());
+}
+
+qreal VelmoMessageWidget::bodyHeight() const
+{
+    const QTextBrowser *browser = m_ui->textBrowser;
+    QTextDocument *document = browser->document();
+    const qreal shownWidth = document->textWidth();
+    // A browser that was never shown has a narrow view, and would lay the text out for that one as soon as it heard of
+    // another size. One that was shown has the text as wide as it is to stay.
+    const QSignalBlocker unheard(document->documentLayout());
+    const QMargins margins = layout()->contentsMargins();
+    document->setTextWidth(width() - margins.left() - margins.right() - 2 * bodyPadding);
+    const qreal height = document->size().height();
+    if (browser->testAttribute(Qt::WA_WState_Created))
+        document->setTextWidth(shownWidth);
+    return height;
 }
 
 void VelmoMessageWidget::setEditText(QString text)

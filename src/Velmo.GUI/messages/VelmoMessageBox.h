@@ -100,6 +100,7 @@ private:
     void setLocked(bool locked);
     void updateButtonTextWithWait();
     void setButtons(const QString &okText, bool otherVisible);
+    qreal bodyHeight() const;
 
     std::unique_ptr<Ui::VelmoMessageWidget> m_ui;
     QString *m_editTarget = nullptr;

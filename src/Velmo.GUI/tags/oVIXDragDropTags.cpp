@@ -223,7 +223,7 @@ void oVIXDragDropTags::dropRequested(QDropEvent *event)
     if (!target || !event)
         return;
     const VelmoDropData payload(event->mimeData());
-    if (payload.getType() != target->getDropType())
+    if (target->getDropType() < 0 || payload.getType() != target->getDropType())
         return;
     auto *source = qobject_cast<oVIXDragDropListWidget *>(event->source());
     if (!source || source != otherList(target))
