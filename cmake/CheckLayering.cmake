@@ -1,9 +1,11 @@
-# cmake -DLIBRARY=<folder> -DTABLE=<file.md> -DPUBLIC_HEADERS=<list file> -DBASE_HEADERS=<list file> -P CheckLayering.cmake
+# cmake -DLIBRARY=<folder> -DTABLE=<file.md> -DPUBLIC_HEADERS=<list file> -DBASE_HEADERS=<list file> [-DUSERS=<folder>]
+#     -P CheckLayering.cmake
 #
 # Holds the sources of the library to the table of folders in docs/architecture.md:
 #   - a file includes its own folder and those that the table allows it, always by the path from the library's root;
 #   - headers do not include each other in a circle;
-#   - public headers include neither private headers nor those of one system, and have no conditional parts.
+#   - public headers include neither private headers nor those of one system, and have no conditional parts;
+#   - sources below the folder of users include none of the library's private headers.
 # The list files name the public headers of the library and of the base library, one a line. Prints every fault.
 cmake_minimum_required(VERSION 3.22)
 
@@ -31,6 +33,17 @@ endif()
 
 # Headers that tie their user to one system, or to the toolkit's private parts.
 set(system_header "^(windows|winuser|windef|shellapi|dwmapi|unistd|dlfcn|pwd|spawn|pthread)\\.h$|^(sys|linux|X11|xcb|qpa|private)/|/private/|_p\\.h$")
+
+function(read_includes file variable)
+    file(STRINGS "${file}" lines REGEX "^[ \t]*#[ \t]*include")
+    set(includes "")
+    foreach(line IN LISTS lines)
+        if(line MATCHES "include[ \t]*[<\"]([^>\"]+)[>\"]")
+            list(APPEND includes "${CMAKE_MATCH_1}")
+        endif()
+    endforeach()
+    set(${variable} "${includes}" PARENT_SCOPE)
+endfunction()
 
 function(check_public_header file includes_variable)
     foreach(include IN LISTS ${includes_variable})
@@ -83,14 +96,7 @@ endforeach()
 
 set(open_headers "")
 foreach(file IN LISTS files)
-    file(STRINGS "${LIBRARY}/${file}" lines REGEX "^[ \t]*#[ \t]*include")
-    set(includes "")
-    foreach(line IN LISTS lines)
-        if(line MATCHES "include[ \t]*[<\"]([^>\"]+)[>\"]")
-            list(APPEND includes "${CMAKE_MATCH_1}")
-        endif()
-    endforeach()
-
+    read_includes("${LIBRARY}/${file}" includes)
     check_folders("${file}" includes headers)
     if(file MATCHES "\\.h$")
         list(APPEND open_headers "${file}")
@@ -99,6 +105,28 @@ foreach(file IN LISTS files)
     if(file IN_LIST public_headers)
         check_public_header("${file}" includes)
     endif()
+endforeach()
+
+set(user_files "")
+if(USERS)
+    file(GLOB_RECURSE user_files "${USERS}/*.h" "${USERS}/*.cpp")
+    if(NOT user_files)
+        fault("${USERS}: there are no sources")
+    endif()
+endif()
+set(public_names "")
+foreach(header IN LISTS public_headers)
+    get_filename_component(name "${header}" NAME)
+    list(APPEND public_names "${name}")
+endforeach()
+foreach(file IN LISTS user_files)
+    read_includes("${file}" includes)
+    foreach(include IN LISTS includes)
+        get_filename_component(name "${include}" NAME)
+        if((include IN_LIST own_names OR EXISTS "${LIBRARY}/${include}") AND NOT name IN_LIST public_names)
+            fault("${file}: includes the private ${include}")
+        endif()
+    endforeach()
 endforeach()
 
 # Headers that rest only on settled ones are settled; when no more can be, the rest is a circle or leads to one.

@@ -114,6 +114,18 @@ private slots:
         }
     }
 
+    void tellsEveryFactOfASceneThatKnowsNone()
+    {
+        const Scene scene = read("<VelmoSerializer/>");
+        write(scene);
+        VelmoSceneMetadataParser facts = VelmoSceneMetadataParser::withDefaults();
+        QVERIFY(facts.read(path()).ok);
+        QCOMPARE(facts.version.toString(), VelmoVersion::current().toString());
+        QCOMPARE(QStringList({facts.bakeStatus, facts.actorCount, facts.vehicleCount, facts.backgroundName}),
+                 QStringList({u"Not baked"_s, u"0"_s, u"0"_s, u"None"_s}));
+        QVERIFY(!facts.timeFramerate.isEmpty());
+    }
+
     void keepsAllElseAsItIs()
     {
         const QByteArray document = "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n"
@@ -124,7 +136,7 @@ private slots:
                                     "    <x:lamp x:tone=\"a&#10;b\"><lamp/></x:lamp>\n"
                                     "    <note><![CDATA[1 < 2]]> &amp;amp; a&#13;b  </note><!-- here -->\n"
                                     "    <scenemetadata version=\"1\" time-fps=\"00:00:00 | 25\" bakestatus=\"Baked\""
-                                    " actorcount=\"1\" vehiclescount=\"0\" mood=\"good\"/>\n"
+                                    " actorcount=\"1\" vehiclescount=\"0\" background-name=\"None\" mood=\"good\"/>\n"
                                     "    <timeline fps=\"25.0\"><crop  last=\"007\"/></timeline>\n"
                                     "    <bake status=\"Baked\"/>\n"
                                     "    <tags>\n"

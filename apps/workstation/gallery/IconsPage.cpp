@@ -1,7 +1,7 @@
 #include "gallery/IconsPage.h"
 
+#include "OvixSvgCacheCounters.h"
 #include "OvixSvgLabel.h"
-#include "foundation/OvixSvgCacheCounters.h"
 
 #include <QDir>
 #include <QGridLayout>

@@ -61,7 +61,7 @@ void writeEmptyScene(QIODevice &file)
     writer.writeAttribute(u"bakestatus"_s, Scene::notBakedStatus());
     writer.writeAttribute(u"actorcount"_s, u"0"_s);
     writer.writeAttribute(u"vehiclescount"_s, u"0"_s);
-    writer.writeAttribute(u"background-name"_s, u"None"_s);
+    writer.writeAttribute(u"background-name"_s, Scene::noGroundName());
     writer.writeEndElement();
     writer.writeEndElement();
     writer.writeEndDocument();

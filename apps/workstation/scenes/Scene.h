@@ -81,4 +81,6 @@ struct Scene
     void setBaked(int count);
 
     static QString notBakedStatus() { return QStringLiteral("Not baked"); }
+    /// What the list of scenes shows for a scene without a background.
+    static QString noGroundName() { return QStringLiteral("None"); }
 };

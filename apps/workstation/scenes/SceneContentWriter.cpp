@@ -1,5 +1,6 @@
 #include "scenes/SceneContentWriter.h"
 
+#include "VelmoVersion.h"
 #include "scenes/SceneAttributes.h"
 #include "scenes/SceneTags.h"
 
@@ -231,16 +232,19 @@ void SceneContentWriter::edit(Attributes *attributes)
 
 void SceneContentWriter::editMetadata(Attributes *attributes) const
 {
-    const auto tell = [attributes](QLatin1String name, const QString &value) {
+    // What the scene does not know stays as it was told, and is told as a new scene does where it was not.
+    const auto tell = [attributes](QLatin1String name, const QString &value, const QString &unknown) {
         if (!value.isEmpty())
             attributes->set(name, value);
+        else if (!attributes->original().hasAttribute(name))
+            attributes->set(name, unknown);
     };
-    tell("version"_L1, m_scene.version);
-    tell("time-fps"_L1, m_scene.timeText());
-    tell("bakestatus"_L1, m_scene.bakeStatus);
-    tell("actorcount"_L1, QString::number(m_scene.crowdSize()));
-    tell("vehiclescount"_L1, QString::number(m_scene.vehicles.size()));
-    tell("background-name"_L1, m_scene.groundName);
+    attributes->set("time-fps"_L1, m_scene.timeText());
+    attributes->set("actorcount"_L1, QString::number(m_scene.crowdSize()));
+    attributes->set("vehiclescount"_L1, QString::number(m_scene.vehicles.size()));
+    tell("version"_L1, m_scene.version, VelmoVersion::current().toString());
+    tell("bakestatus"_L1, m_scene.bakeStatus, Scene::notBakedStatus());
+    tell("background-name"_L1, m_scene.groundName, Scene::noGroundName());
 }
 
 void SceneContentWriter::editTimeline(Attributes *attributes) const

@@ -1,17 +1,20 @@
 #pragma once
 
-#include "foundation/OvixSvgRenderer.h"
+#include "VelmoGuiExport.h"
 
-/// How much the icon cache holds, for the gallery and the tests.
-class OvixSvgCacheCounters
+#include <QtGlobal>
+
+/// How much the icon cache holds at this moment, for pages that tell an application's developers. From the GUI thread
+/// alone, as the cache itself; before the first icon everything is 0.
+class VELMO_GUI_EXPORT OvixSvgCacheCounters
 {
 public:
     /// Pictures kept, null ones included.
-    VELMO_GUI_EXPORT static qsizetype pixmaps();
+    static qsizetype pixmaps();
     /// SVG files kept, bad ones included.
-    VELMO_GUI_EXPORT static qsizetype documents();
+    static qsizetype documents();
     /// How many times a file was handed to the SVG parser.
-    VELMO_GUI_EXPORT static qsizetype loads();
-    /// Memory of the pictures' pixels.
-    VELMO_GUI_EXPORT static qint64 bytes();
+    static qsizetype loads();
+    /// Memory of the pictures' pixels, in bytes.
+    static qint64 bytes();
 };
