@@ -72,9 +72,9 @@ public:
         return box;
     }
 
-    /// Takes a pointer of its own: whoever holds the box may go while it runs.
-    static VelmoMsgReturnCode run(QPointer<VelmoMessageWidget> box)
+    static VelmoMsgReturnCode run(VelmoMessageWidget *widget)
     {
+        const QPointer<VelmoMessageWidget> box(widget); // of its own: whoever holds the box may go while it runs
         if (box->isVisible())
             return MsgRejected; // it runs already, and goes on
         box->startMinimumWaitTimer();
@@ -87,7 +87,7 @@ public:
     static VelmoMsgReturnCode runAndDelete(VelmoMessageWidget *widget)
     {
         const QPointer<VelmoMessageWidget> box(widget);
-        const VelmoMsgReturnCode code = run(box);
+        const VelmoMsgReturnCode code = run(widget);
         delete box.data();
         return code;
     }
