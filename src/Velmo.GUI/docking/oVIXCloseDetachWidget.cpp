@@ -115,14 +115,23 @@ void oVIXCloseDetachWidget::thumbSizeTriggered(int size)
     emit thumbClicked(size);
 }
 
+QList<OvixSvgButton *> oVIXCloseDetachWidget::buttons() const
+{
+    QList<OvixSvgButton *> buttons;
+    if (m_thumbVisible)
+        buttons << m_ui->btThumbMode;
+    if (m_closeVisible)
+        buttons << m_ui->btClose;
+    if (m_detachVisible)
+        buttons << m_ui->btDetach;
+    return buttons;
+}
+
 void oVIXCloseDetachWidget::reCalcSize()
 {
     int width = 0;
-    if (m_thumbVisible)
-        width += m_ui->btThumbMode->width();
-    if (m_closeVisible)
-        width += m_ui->btClose->width();
-    if (m_detachVisible)
-        width += m_ui->btDetach->width();
+    const QList<OvixSvgButton *> group = buttons();
+    for (const OvixSvgButton *button : group)
+        width += button->width();
     setFixedWidth(width);
 }

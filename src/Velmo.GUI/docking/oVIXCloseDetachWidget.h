@@ -4,11 +4,13 @@
 #include "docking/OvixThumbnailSize.h"
 
 #include <QFrame>
+#include <QList>
 #include <QMainWindow>
 #include <QPointer>
 
 #include <memory>
 
+class OvixSvgButton;
 class OvixThumbnailSizeWidget;
 
 namespace Ui {
@@ -70,6 +72,10 @@ private slots:
     void thumbSizeTriggered(int size);
 
 private:
+    friend class AccessibleDockBar;
+
+    /// Those that belong to the group.
+    QList<OvixSvgButton *> buttons() const;
     void reCalcSize();
 
     std::unique_ptr<Ui::oVIXCloseDetachWidget> m_ui;

@@ -1,6 +1,7 @@
 #include "docking/oVIXDockBar.h"
 
 #include "choosers/QMultiCompleterLineEdit.h"
+#include "docking/AccessibleDockBar.h"
 #include "docking/DockBarView.h"
 #include "docking/oVIXCloseDetachWidget.h"
 #include "foundation/InterFont.h"
@@ -39,6 +40,7 @@ QString searchSheet()
 
 oVIXDockBar::oVIXDockBar(QWidget *parent) : QWidget(parent), m_closeDetach(new oVIXCloseDetachWidget(this))
 {
+    AccessibleDockBar::install();
     connect(m_closeDetach, &oVIXCloseDetachWidget::closeClicked, this, &oVIXDockBar::closeClicked);
     connect(m_closeDetach, &oVIXCloseDetachWidget::detachClicked, this, &oVIXDockBar::detachClicked);
     connect(m_closeDetach, &oVIXCloseDetachWidget::thumbClicked, this, &oVIXDockBar::thumbClicked);
@@ -243,6 +245,12 @@ void oVIXDockBar::removeCompleter()
     m_searchEdit->setCompleter(nullptr);
     m_completer->deleteLater(); // its own pop-up may have led here
     m_completer = nullptr;
+}
+
+void oVIXDockBar::beginSearch()
+{
+    updateVisibility(true);
+    m_searchEdit->setFocus(); // it keeps the field in sight
 }
 
 /// Without a flag it is the pointer's true place that counts.

@@ -22,6 +22,9 @@ class oVIXCloseDetachWidget;
 /// or something is written in it. They are out of reach of the Tab key until then: an application that wants them to
 /// be reached by keys alone gives the buttons a focus policy and calls `setHideSearchUntilHover(false)`.
 ///
+/// Assistive tools reach what is hidden through the header itself, whose actions bear the names of its buttons, and
+/// "Search".
+///
 /// Presses on the title and on empty places go on to the panel, which may be dragged by them.
 class VELMO_GUI_EXPORT oVIXDockBar : public QWidget
 {
@@ -97,9 +100,13 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    friend class AccessibleDockBar;
+
     void createTitle();
     void createSearch();
     void removeCompleter();
+    /// Shows the search field and gives it the keyboard.
+    void beginSearch();
     void updateVisibility(std::optional<bool> hovered = {});
 
     oVIXCloseDetachWidget *m_closeDetach;

@@ -2,6 +2,7 @@
 
 #include "foundation/AccessibleWidgets.h"
 #include "frame/oVIXMinMaxCloseWidget.h"
+#include "frame/oVIXTitleBar.h"
 
 #include <QAccessibleWidget>
 #include <QHash>
@@ -111,6 +112,11 @@ public:
             QAccessible::deleteAccessibleInterface(id);
     }
 
+    QString text(QAccessible::Text kind) const override
+    {
+        const QString text = QAccessibleWidget::text(kind);
+        return kind == QAccessible::Name && text.isEmpty() ? oVIXTitleBar::tr("Menu bar") : text;
+    }
     int childCount() const override { return int(actions().size()) + (buttons() ? 1 : 0); }
     QAccessibleInterface *child(int index) const override
     {

@@ -1,12 +1,15 @@
 #include "tags/oVIXDragDropListWidget.h"
 
 #include "foundation/DeferredRows.h"
+#include "foundation/KeyboardPress.h"
+#include "foundation/QClickableLabel.h"
 #include "tags/AccessibleTags.h"
 #include "tags/SortedPlace.h"
 #include "tags/TagSheets.h"
 #include "tags/VelmoDrag.h"
 
 #include <QDropEvent>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPixmap>
@@ -21,6 +24,8 @@
 namespace {
 
 constexpr int rowHeight = 20;
+constexpr QPoint chipInTag(4, 4); // the margins of the tag's sheet
+constexpr qreal chipRadius = 3;
 /// What a window system takes as a picture; the names of tags know no limit.
 constexpr QSize largestDragPicture(4096, 4096);
 
@@ -63,6 +68,13 @@ public:
 
 protected:
     bool event(QEvent *event) override { return isTooEarly(event) || oVIXDragTag::event(event); }
+    void paintEvent(QPaintEvent *event) override
+    {
+        oVIXDragTag::paintEvent(event);
+        const auto *list = qobject_cast<const QListWidget *>(parentWidget()->parentWidget());
+        if (list && list->itemWidget(list->currentItem()) == this)
+            paintFocusRing(this, list, QRect(chipInTag, rect().bottomRight()), chipRadius);
+    }
     bool eventFilter(QObject *child, QEvent *event) override
     {
         return isTooEarly(event) || oVIXDragTag::eventFilter(child, event);
@@ -98,6 +110,8 @@ oVIXDragDropListWidget::oVIXDragDropListWidget(QWidget *parent)
     setAcceptDrops(true);
     setItemDelegate(new RowWithoutText(this));
     verticalScrollBar()->setStyleSheet(TagSheets::dropListScrollBar());
+
+    connect(this, &QListWidget::currentItemChanged, viewport(), qOverload<>(&QWidget::update)); // the ring
 
     const auto forgetOrder = [this] { m_knownSorted = false; };
     connect(model(), &QAbstractItemModel::rowsMoved, this, forgetOrder);
@@ -245,6 +259,22 @@ void oVIXDragDropListWidget::dragMoveEvent(QDragMoveEvent *event)
 void oVIXDragDropListWidget::dropEvent(QDropEvent *event)
 {
     emit dropTriggered(event);
+}
+
+void oVIXDragDropListWidget::keyPressEvent(QKeyEvent *event)
+{
+    oVIXDragTag *tag = tagAt(currentRow());
+    const bool removes = hasKeyboardFocus(this) && event->matches(QKeySequence::Delete);
+    if (!tag || !tag->isEnabled() || (!removes && !isPressKey(this, event))) {
+        QListWidget::keyPressEvent(event);
+        return;
+    }
+    if (event->isAutoRepeat())
+        return;
+    if (!removes && !tag->isAdd())
+        emit tag->doubleClick();
+    else if (auto *button = tag->findChild<QClickableLabel *>(); button && removes != tag->isAdd())
+        button->click();
 }
 
 void oVIXDragDropListWidget::hideEvent(QHideEvent *event)

@@ -19,6 +19,9 @@ class DeferredRows;
 /// their tags are not visible before they first come into view. The owner may delete the list or its rows from any
 /// signal. Assistive tools see a list of the tags, which have their buttons for children; pressing a tag is a double
 /// click on it.
+///
+/// The arrow keys go from tag to tag and draw a ring round the current one. Return and Space do what a double click on
+/// it does, and open the line of the add tag; Delete presses the tag's button, if it has one.
 class VELMO_GUI_EXPORT oVIXDragDropListWidget : public QListWidget
 {
     Q_OBJECT
@@ -82,6 +85,7 @@ protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
     void rowsInserted(const QModelIndex &parent, int first, int last) override;

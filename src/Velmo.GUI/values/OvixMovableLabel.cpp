@@ -1,5 +1,6 @@
 #include "values/OvixMovableLabel.h"
 
+#include "foundation/KeyboardPress.h"
 #include "values/AccessibleTimeValues.h"
 #include "values/MarkerScale.h"
 
@@ -199,13 +200,15 @@ void OvixMovableLabel::mouseReleaseEvent(QMouseEvent *)
 
 void OvixMovableLabel::mouseDoubleClickEvent(QMouseEvent *)
 {
-    if (!m_editable)
-        return;
-    if (!std::exchange(m_editing, true))
-        m_editAnnounced = false;
-    m_text->hide();
-    m_editor->show();
-    updateEditLabel();
+    openEditor();
+}
+
+void OvixMovableLabel::keyPressEvent(QKeyEvent *event)
+{
+    if (!m_editable || !isPressKey(this, event))
+        OvixSvgLabel::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        openEditor();
 }
 
 void OvixMovableLabel::hideEvent(QHideEvent *event)
@@ -241,6 +244,17 @@ MarkerScale OvixMovableLabel::scale() const
     return {m_minimumPosition, m_maximumPosition, m_maximumValue};
 }
 
+void OvixMovableLabel::openEditor()
+{
+    if (!m_editable)
+        return;
+    if (!std::exchange(m_editing, true))
+        m_editAnnounced = false;
+    m_text->hide();
+    m_editor->show();
+    updateEditLabel();
+}
+
 void OvixMovableLabel::placeEditor()
 {
     m_editor->setGeometry(0, m_textTop / 2, width(), part(height(), 0.7));
@@ -252,6 +266,13 @@ void OvixMovableLabel::closeEditor()
     const QSignalBlocker blocker(m_editor); // closing takes the focus away, which would finish the edit again
     m_text->show();
     raiseOnChange(m_text);
+    if (m_editor->hasFocus() && focusPolicy() != Qt::NoFocus) {
+        const auto takeBack = [this] {
+            if (!window()->focusWidget())
+                setFocus();
+        };
+        QMetaObject::invokeMethod(this, takeBack, Qt::QueuedConnection); // the key that has ended the edit comes here
+    }
     m_editor->clearFocus(); // hiding would hand it to the next widget of the window
     m_editor->hide();
     m_editAnnounced = false;

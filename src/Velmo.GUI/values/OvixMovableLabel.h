@@ -11,7 +11,8 @@ struct MarkerScale;
 /// A small marker that stands for an integer from 0 to a maximum by its place on a horizontal way inside its parent.
 ///
 /// The user reads the value on the marker, drags it with the left button, or double-clicks it and types a number:
-/// Return or leaving the editor takes it over, Escape gives it up. Positions are the x of the marker's left edge in the
+/// Return or leaving the editor takes it over, Escape gives it up. With a focus policy set, Space and Return open the
+/// editor too, and the marker has the keyboard again at its end. Positions are the x of the marker's left edge in the
 /// parent, in logical pixels. A pixel may stand for many values: what `getValue` answers is that of the pixel and may
 /// lie below the value that was set, but a value that was set comes back whenever the way changes, until the marker is
 /// moved by other means. Assistive tools see a slider, and set its value as if it were typed.
@@ -89,12 +90,14 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     MarkerScale scale() const;
+    void openEditor();
     void placeEditor();
     void closeEditor();
     void giveUpEdit();

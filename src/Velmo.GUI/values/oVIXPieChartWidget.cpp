@@ -1,5 +1,6 @@
 #include "values/oVIXPieChartWidget.h"
 
+#include "foundation/KeyboardPress.h"
 #include "foundation/OvixSvgButton.h"
 #include "values/AccessiblePieChart.h"
 #include "values/PieChartPainter.h"
@@ -13,6 +14,7 @@
 #include <QAbstractItemModel>
 #include <QContextMenuEvent>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -162,6 +164,8 @@ void oVIXPieChartWidget::paintEvent(QPaintEvent *event)
 
     QPainter painter(this);
     paintPieChart(painter, look);
+    painter.end();
+    paintFocusRing(this);
 }
 
 void oVIXPieChartWidget::mousePressEvent(QMouseEvent *event)
@@ -192,6 +196,23 @@ void oVIXPieChartWidget::contextMenuEvent(QContextMenuEvent *event)
     const int pointed = event->reason() == QContextMenuEvent::Mouse ? sliceAt(event->pos()) : -1;
     showMenu(pointed < 0 ? m_currentIndex : pointed, event->globalPos());
     event->accept();
+}
+
+void oVIXPieChartWidget::keyPressEvent(QKeyEvent *event)
+{
+    const int last = m_model ? m_model->rowCount() - 1 : -1;
+    if (!hasKeyboardFocus(this) || last < 0) {
+        QWidget::keyPressEvent(event);
+    } else if (isPressKey(this, event)) {
+        if (m_current.isValid() && !event->isAutoRepeat())
+            lockSlice(m_currentIndex, !PieModel::isLocked(m_model, m_currentIndex));
+    } else if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Up) {
+        onSelectionChanged(std::max(m_currentIndex - 1, 0));
+    } else if (event->key() == Qt::Key_Right || event->key() == Qt::Key_Down) {
+        onSelectionChanged(std::min(m_currentIndex + 1, last));
+    } else {
+        QWidget::keyPressEvent(event);
+    }
 }
 
 bool oVIXPieChartWidget::eventFilter(QObject *watched, QEvent *event)

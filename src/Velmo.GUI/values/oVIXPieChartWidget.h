@@ -23,7 +23,8 @@ struct Arc;
 /// Each row is a slice of a ring, 50 to 100 logical pixels round the middle of the widget. One slice at a time is
 /// selected, by a click or from outside; its share can be typed in the box inside the ring or dragged at its edges, and
 /// is taken from, or given to, the other slices that are not locked, none of which falls below 1 percent. A context
-/// menu locks and unlocks slices and makes those that are not locked equal.
+/// menu locks and unlocks slices and makes those that are not locked equal. With a focus policy set, the arrow keys
+/// select the slice before or after, and Space and Return lock and unlock it.
 ///
 /// The shares live in the model, which is not owned: row r of column 0 is slice r, `Qt::EditRole` its share in percent
 /// (float, read and written), `Qt::UserRole + 1` whether it is locked (bool). Its name is `Qt::AccessibleTextRole`,
@@ -78,6 +79,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;

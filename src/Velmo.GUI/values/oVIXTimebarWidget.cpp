@@ -13,6 +13,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -60,6 +61,8 @@ oVIXTimebarWidget::oVIXTimebarWidget(QWidget *parent)
     setMouseTracking(true);
     installEventFilter(this);
     m_ui->floatingArea->installEventFilter(this);
+    for (OvixMovableLabel *marker : markers())
+        marker->installEventFilter(this);
 }
 
 oVIXTimebarWidget::~oVIXTimebarWidget()
@@ -309,6 +312,11 @@ bool oVIXTimebarWidget::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_ui->floatingArea) {
         if (event->type() == QEvent::Resize)
             fitToWidth(); // before the first show it gets its width after the timebar
+    } else if (watched != this) {
+        if (event->type() == QEvent::FocusIn)
+            showLabels();
+        else if (event->type() == QEvent::FocusOut)
+            hideLaterIfLeft();
     } else if (event->type() == QEvent::Enter) {
         if (isPointerInside()) {
             m_hideTimer->stop();
@@ -429,8 +437,14 @@ void oVIXTimebarWidget::endInteraction()
 
 void oVIXTimebarWidget::hideLaterIfLeft()
 {
-    if (m_fade->isSeen() && !isPointerInside() && !m_interacting)
+    if (m_fade->isSeen() && !isPointerInside() && !m_interacting && !holdsKeyboard())
         m_hideTimer->start(hideDelayMsecs);
+}
+
+bool oVIXTimebarWidget::holdsKeyboard() const
+{
+    const auto all = markers();
+    return std::any_of(all.begin(), all.end(), std::mem_fn(&QWidget::hasFocus));
 }
 
 bool oVIXTimebarWidget::isPointerInside() const

@@ -19,7 +19,8 @@ class oVIXTimebarWidget;
 /// The frame timeline of the player: a thin bar of the frames from 0 to a maximum that shows what has been computed
 /// (cached), a crop range and the current play frame, below three markers for the current time and both ends of the
 /// crop. Markers fade in while the pointer is over the timebar and out three seconds after it has left; unseen, they
-/// still take the mouse. They can be dragged, and edited by a double click.
+/// still take the mouse. They can be dragged, and edited by a double click. A marker that the application gives a focus
+/// policy is in sight while it has the keyboard, and Space and Return edit it.
 ///
 /// The application gives the frames; the timebar keeps them consistent: the play value is never beyond what is cached
 /// and stays inside the crop. A frame picked by the user (a click on the bar, a drag or an edit of the current marker)
@@ -146,6 +147,7 @@ private:
     void applyRightCrop(bool interacting);
     void endInteraction();
     void hideLaterIfLeft();
+    bool holdsKeyboard() const;
     bool isPointerInside() const;
 
     std::unique_ptr<Ui::oVIXTimebarWidget> m_ui;
