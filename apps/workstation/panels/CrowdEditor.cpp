@@ -49,6 +49,7 @@ CrowdEditor::CrowdEditor(QWidget *parent)
     m_seed->setDecimals(0);
 
     m_pie->setAccessibleName(tr("Shares of the types"));
+    m_pie->setFocusPolicy(Qt::TabFocus);
     m_pie->setModel(m_shares);
     layout->addWidget(m_pie, 0, Qt::AlignHCenter);
     connect(m_pie, &oVIXPieChartWidget::valueFinished, this, &CrowdEditor::edited);

@@ -2,6 +2,9 @@
 
 #include "look/Sheets.h"
 
+#include <QMultiCompleterLineEdit.h>
+#include <oVIXDockBar.h>
+
 #include <QListView>
 #include <QMainWindow>
 #include <QScrollBar>
@@ -25,7 +28,7 @@ LibraryPanel::LibraryPanel(QMainWindow *window)
     setTitle(tr("Library"), tr("Kinds"), u"Inter"_s, 11);
     setSuggestionModel(m_names);
     setSearchEnabled(true);
-    setHideSearchUntilHover(true);
+    getTitleWidget()->getSearchLabel()->setPlaceholderText(tr("Search the library")); // it stands for the title
 
     m_found->setSourceModel(m_model);
     m_found->setFilterCaseSensitivity(Qt::CaseInsensitive);

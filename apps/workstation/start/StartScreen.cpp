@@ -132,6 +132,11 @@ bool StartScreen::canOpen() const
     return m_scenesPanel->getSelectedRow() >= 0;
 }
 
+bool StartScreen::canAdd() const
+{
+    return !m_project.path().isEmpty();
+}
+
 void StartScreen::openSelectedScene()
 {
     m_scenesPanel->finishEditing(); // a name that is being edited is not the file's
@@ -330,6 +335,9 @@ void StartScreen::renameScene(const QString &oldName, const QString &newName)
 
 void StartScreen::addScene()
 {
+    if (!canAdd())
+        return;
+    m_scenesPanel->finishEditing();
     showAdded(m_project.addScene(), tr("New scene"));
 }
 

@@ -37,6 +37,10 @@ public:
     bool canOpen() const;
     /// Asks for the selected scene to be opened.
     void openSelectedScene();
+    /// Whether there is a project for a new scene.
+    bool canAdd() const;
+    /// Makes a scene in the selected project and selects it. Nothing without a project.
+    void addScene();
     /// Asks in a box for another name of the selected scene. Nothing without one, as for the next two.
     void renameSelectedScene();
     void cloneSelectedScene();
@@ -62,7 +66,6 @@ private:
     void showScene(const SceneFacts &facts);
     void finishReading();
     void renameScene(const QString &oldName, const QString &newName);
-    void addScene();
     void showAdded(const ProjectFolder::Change &change, const QString &problemTitle);
     /// Tells it from the event loop: whoever has asked for the change is still at work. What has vanished goes from the
     /// list.

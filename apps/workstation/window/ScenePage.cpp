@@ -6,6 +6,7 @@
 #include "start/StatusLine.h"
 #include "window/SceneView.h"
 
+#include <OvixMovableLabel.h>
 #include <OvixSvgButton.h>
 #include <VelmoMessageBox.h>
 #include <oVIXFloatingProgressBar.h>
@@ -267,6 +268,35 @@ void ScenePage::goToFrame(int frame)
     showFrame(m_timebar->getCurrentPlayValue());
 }
 
+void ScenePage::step(int frames)
+{
+    if (m_bake.computedFrames() == 0)
+        return;
+    setPlaying(false);
+    const int frame = m_timebar->getCurrentPlayValue() + frames;
+    if (frame >= m_timebar->getCropStartValue() && frame <= m_timebar->getCropEndValue()
+        && frame < m_bake.computedFrames())
+        goToFrame(frame);
+}
+
+void ScenePage::startCropHere()
+{
+    m_timebar->setCropValues(m_timebar->getCurrentPlayValue(), m_timebar->getCropEndValue());
+    takeOverCrop();
+}
+
+void ScenePage::endCropHere()
+{
+    m_timebar->setCropValues(m_timebar->getCropStartValue(), m_timebar->getCurrentPlayValue());
+    takeOverCrop();
+}
+
+void ScenePage::clearCrop()
+{
+    m_timebar->setCropValues(0, m_timebar->getMax());
+    takeOverCrop();
+}
+
 void ScenePage::hideEvent(QHideEvent *event)
 {
     setPlaying(false);
@@ -300,11 +330,17 @@ QWidget *ScenePage::createPlayer()
     addMode(ViewOptions::Mode::Dots, u"Dots"_s, tr("Where people are"));
     addMode(ViewOptions::Mode::Trails, u"Trails"_s, tr("Where they come from"));
     addMode(ViewOptions::Mode::Density, u"Density"_s, tr("How dense they stand"));
+    const QList<OvixSvgButton *> modeButtons = modes->findChildren<OvixSvgButton *>();
+    for (OvixSvgButton *mode : modeButtons)
+        mode->setFocusPolicy(Qt::TabFocus);
     modes->setAccessibleName(tr("View"));
     modes->setFixedHeight(oVIXToggle::StateWidth);
 
     m_timebar = new oVIXTimebarWidget(player);
     m_timebar->setAccessibleName(tr("Timeline"));
+    const QList<OvixMovableLabel *> markers = m_timebar->findChildren<OvixMovableLabel *>();
+    for (OvixMovableLabel *marker : markers)
+        marker->setFocusPolicy(Qt::TabFocus);
 
     auto *layout = new QHBoxLayout(player);
     layout->setContentsMargins(12, 4, 12, 4);

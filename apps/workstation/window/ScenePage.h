@@ -49,6 +49,14 @@ public:
     void setPlaying(bool playing);
     /// Shows a frame that has been baked; as near to it as there is one.
     void goToFrame(int frame);
+    /// Stops playing and goes on or back inside the crop. Nothing before anything is baked.
+    void step(int frames);
+    /// Makes the current frame the first one that plays.
+    void startCropHere();
+    /// Makes the current frame the last one that plays.
+    void endCropHere();
+    /// Lets all frames play.
+    void clearCrop();
 
 signals:
     void bakingChanged(bool isBaking);

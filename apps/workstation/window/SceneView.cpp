@@ -5,16 +5,37 @@
 #include "window/MoverAt.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
 constexpr double zoomOfWheelStep = 1.25;
+constexpr int panStep = 40;
+constexpr int crossArm = 8;
+
+/// Where a key moves what is in the middle of the view, in steps.
+QPointF wayOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return {-1, 0};
+    case Qt::Key_Right:
+        return {1, 0};
+    case Qt::Key_Up:
+        return {0, -1};
+    case Qt::Key_Down:
+        return {0, 1};
+    default:
+        return {};
+    }
+}
 
 } // namespace
 
@@ -23,6 +44,7 @@ SceneView::SceneView(QWidget *parent) : QWidget(parent)
     AccessibleSceneView::install();
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
+    setFocusPolicy(Qt::TabFocus);
     showPointer(VelmoCursor::OpenHand);
 }
 
@@ -74,24 +96,44 @@ void SceneView::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.fillRect(rect(), Palette::deep);
     m_drawing.paint(painter, sceneToView());
+    if (hasFocus() && m_showsFocus)
+        paintFocus(&painter);
 }
 
 void SceneView::wheelEvent(QWheelEvent *event)
 {
-    const double steps = event->angleDelta().y() / 120.0;
-    const double zoom = std::clamp(options().zoom * std::pow(zoomOfWheelStep, steps), ViewOptions::smallestZoom,
-                                   ViewOptions::largestZoom);
     event->accept();
-    if (zoom == options().zoom)
-        return;
-    // What is under the pointer stays there.
-    const QPointF under = sceneToView().inverted().map(event->position());
-    m_centre = under + (m_centre - under) * options().zoom / zoom;
-    m_drawing.setZoom(zoom);
-    update();
-    if (event->buttons() == Qt::NoButton)
+    if (zoomAt(event->position(), event->angleDelta().y() / 120.0) && event->buttons() == Qt::NoButton)
         showPointer(VelmoCursor::Zoom); // until the pointer moves
-    emit zoomChanged(zoom);
+}
+
+void SceneView::focusInEvent(QFocusEvent *event)
+{
+    m_showsFocus = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    QWidget::focusInEvent(event);
+}
+
+void SceneView::keyPressEvent(QKeyEvent *event)
+{
+    const QPointF middle = QRectF(rect()).center();
+    const QPointF way = wayOf(event->key());
+    if (event->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) {
+        QWidget::keyPressEvent(event);
+    } else if (!way.isNull()) {
+        const QTransform toScene = sceneToView().inverted();
+        m_centre += toScene.map(middle + way * panStep) - toScene.map(middle);
+        update();
+    } else if (event->key() == Qt::Key_Plus) {
+        zoomAt(middle, 1);
+    } else if (event->key() == Qt::Key_Minus) {
+        zoomAt(middle, -1);
+    } else if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        pickInTheMiddle();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+    if (event->isAccepted() && !std::exchange(m_showsFocus, true))
+        update();
 }
 
 void SceneView::mousePressEvent(QMouseEvent *event)
@@ -133,6 +175,32 @@ void SceneView::mouseReleaseEvent(QMouseEvent *event)
 void SceneView::pickInTheMiddle()
 {
     pickAt(QRectF(rect()).center());
+}
+
+bool SceneView::zoomAt(QPointF point, double steps)
+{
+    const double zoom = std::clamp(options().zoom * std::pow(zoomOfWheelStep, steps), ViewOptions::smallestZoom,
+                                   ViewOptions::largestZoom);
+    if (zoom == options().zoom)
+        return false;
+    const QPointF under = sceneToView().inverted().map(point);
+    m_centre = under + (m_centre - under) * options().zoom / zoom;
+    m_drawing.setZoom(zoom);
+    update();
+    emit zoomChanged(zoom);
+    return true;
+}
+
+/// A ring round the view, and a cross where the keys pick.
+void SceneView::paintFocus(QPainter *painter) const
+{
+    const QPointF middle = QRectF(rect()).center();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Palette::accent);
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter->drawLine(middle - QPointF(crossArm, 0), middle + QPointF(crossArm, 0));
+    painter->drawLine(middle - QPointF(0, crossArm), middle + QPointF(0, crossArm));
 }
 
 void SceneView::pickAt(QPointF point)

@@ -7,7 +7,8 @@
 #include <QWidget>
 
 /// A scene seen from above: ground, walls, people and vehicles. The wheel zooms at the pointer, a drag moves the scene,
-/// a click picks somebody.
+/// a click picks somebody. With the
+/// keyboard, which Tab gives it, the arrows move, plus and minus zoom, Space and Return pick who is in the middle.
 class SceneView : public QWidget
 {
     Q_OBJECT
@@ -31,7 +32,7 @@ public:
     void setOptions(const ViewOptions &options);
     const ViewOptions &options() const;
 
-    /// As a click in the middle of the view does, for assistive tools.
+    /// As a click in the middle of the view does, for the keyboard and for assistive tools.
     void pickInTheMiddle();
 
 signals:
@@ -43,6 +44,8 @@ signals:
 protected:
     void paintEvent(QPaintEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -50,6 +53,9 @@ protected:
 private:
     /// From metres to logical pixels.
     QTransform sceneToView() const;
+    /// By steps of the wheel; what is at @p point stays there. False when it is as near or far as it can be.
+    bool zoomAt(QPointF point, double steps);
+    void paintFocus(QPainter *painter) const;
     void pickAt(QPointF point);
     const SceneMover *moverUnder(QPointF point) const;
     void showPointer(VelmoCursor::Shape shape);
@@ -60,4 +66,6 @@ private:
     QPointF m_pressed;
     QPointF m_dragged;
     bool m_isDragging = false;
+    /// The user goes by keys: the focus that a new page hands out is nobody's concern.
+    bool m_showsFocus = false;
 };

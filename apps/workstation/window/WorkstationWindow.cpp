@@ -7,6 +7,7 @@
 #include "panels/TagsPanel.h"
 #include "start/SceneQuestions.h"
 #include "start/StartScreen.h"
+#include "window/PlayMenu.h"
 #include "window/SceneFactsDialog.h"
 #include "window/SceneKeeper.h"
 #include "window/ScenePage.h"
@@ -14,8 +15,10 @@
 #include "window/WaitPicture.h"
 #include "window/WelcomeDialog.h"
 
+#include <OvixSvgButton.h>
 #include <VelmoAboutDialog.h>
 #include <VelmoFeedbackConsentDialog.h>
+#include <oVIXDockBar.h>
 #include <oVIXMinMaxCloseWidget.h>
 #include <oVIXTitleBar.h>
 #include <oVIXWindowWaitGlobal.h>
@@ -39,6 +42,15 @@ constexpr QSize logoSize(22, 32);
 constexpr auto reportInterval = 50ms;
 constexpr auto geometryKey = "window/geometry";
 constexpr auto panelsKey = "window/panels";
+
+/// For the keyboard and for assistive tools, which have no pointer to hover with.
+void keepHeaderInReach(oVIXDock *panel)
+{
+    const QList<OvixSvgButton *> buttons = panel->getTitleWidget()->findChildren<OvixSvgButton *>();
+    for (OvixSvgButton *button : buttons)
+        button->setFocusPolicy(Qt::TabFocus);
+    panel->setHideSearchUntilHover(false);
+}
 
 } // namespace
 
@@ -224,6 +236,7 @@ void WorkstationWindow::createMenus()
 
     QMenu *scene = menuBar()->addMenu(tr("Scene"));
     m_openAction = scene->addAction(tr("Open"), QKeySequence::Open, m_startScreen, &StartScreen::openSelectedScene);
+    m_newAction = scene->addAction(tr("New scene"), QKeySequence::New, m_startScreen, &StartScreen::addScene);
     m_saveAction = scene->addAction(tr("Save"), QKeySequence::Save, this, &WorkstationWindow::saveScene);
     m_factsAction = scene->addAction(tr("Facts"), tr("Ctrl+I"), this, &WorkstationWindow::showSceneFacts);
     m_closeSceneAction =
@@ -237,12 +250,19 @@ void WorkstationWindow::createMenus()
     scene->addSeparator();
     scene->addAction(tr("Quit"), tr("Ctrl+Q"), this, &QWidget::close);
 
+    auto *play = new PlayMenu(m_scenePage, menuBar());
+    menuBar()->addMenu(play);
+
     QMenu *window = menuBar()->addMenu(tr("Window"));
     window->addAction(tr("Minimize"), this, &QWidget::showMinimized);
     m_maximizeAction = window->addAction(QString(), this, &WorkstationWindow::toggleMaximized);
     window->addSeparator();
-    for (QDockWidget *panel : panels())
+    for (oVIXDock *panel : panels())
         window->addAction(panel->toggleViewAction());
+    QMenu *detach = window->addMenu(tr("Detach or dock"));
+    for (oVIXDock *panel : panels())
+        detach->addAction(panel->windowTitle(), panel, &oVIXDock::detachTriggered);
+    m_sceneMenus = {play, detach};
 
     QMenu *help = menuBar()->addMenu(tr("Help"));
     help->addAction(tr("Welcome"), QKeySequence::HelpContents, this, &WorkstationWindow::showWelcome);
@@ -271,8 +291,10 @@ void WorkstationWindow::createPanels()
     addDockWidget(Qt::RightDockWidgetArea, m_parameters);
     addDockWidget(Qt::LeftDockWidgetArea, m_tags);
     m_panelState = saveState();
-    for (QDockWidget *panel : panels())
+    for (oVIXDock *panel : panels()) {
+        keepHeaderInReach(panel);
         panel->hide();
+    }
 
     SceneView *view = m_scenePage->view();
     connect(m_library, &LibraryPanel::typeSelected, this, [view](const QString &type) {
@@ -316,7 +338,7 @@ void WorkstationWindow::showPage(QWidget *page)
     m_pages->setCurrentWidget(page);
 }
 
-QList<QDockWidget *> WorkstationWindow::panels() const
+QList<oVIXDock *> WorkstationWindow::panels() const
 {
     return {m_library, m_parameters, m_tags};
 }
@@ -324,7 +346,7 @@ QList<QDockWidget *> WorkstationWindow::panels() const
 void WorkstationWindow::hidePanels()
 {
     m_panelState = saveState();
-    for (QDockWidget *panel : panels())
+    for (oVIXDock *panel : panels())
         panel->hide();
 }
 
@@ -332,7 +354,7 @@ void WorkstationWindow::restorePanels()
 {
     if (restoreState(m_panelState))
         return;
-    for (QDockWidget *panel : panels())
+    for (oVIXDock *panel : panels())
         panel->show();
 }
 
@@ -418,12 +440,15 @@ void WorkstationWindow::updateActions()
 {
     const bool ready = !isLoading();
     m_openAction->setEnabled(ready && !showsScene() && m_startScreen->canOpen());
+    m_newAction->setEnabled(ready && !showsScene() && m_startScreen->canAdd());
     for (QAction *action : std::as_const(m_fileActions))
         action->setEnabled(m_openAction->isEnabled());
     m_saveAction->setEnabled(ready && showsScene()); // also for what is still being typed
     m_closeSceneAction->setEnabled(ready && showsScene());
     m_factsAction->setEnabled(ready && showsScene());
-    for (QDockWidget *panel : panels())
+    for (oVIXDock *panel : panels())
         panel->toggleViewAction()->setEnabled(showsScene());
+    for (const QMenu *menu : std::as_const(m_sceneMenus))
+        menu->menuAction()->setEnabled(showsScene());
     m_maximizeAction->setText(isMaximized() ? tr("Restore") : tr("Maximize"));
 }

@@ -10,13 +10,14 @@ class LibraryPanel;
 class Onboarding;
 class ParametersPanel;
 class QAction;
-class QDockWidget;
+class QMenu;
 class QSettings;
 class QStackedWidget;
 class SceneKeeper;
 class ScenePage;
 class StartScreen;
 class TagsPanel;
+class oVIXDock;
 class oVIXTitleBar;
 
 /// The application's window: frameless, with the menu bar as its title bar, the start screen, and the page of the open
@@ -70,7 +71,7 @@ private:
     void createTitleBar();
     void createPanels();
     void showPage(QWidget *page);
-    QList<QDockWidget *> panels() const;
+    QList<oVIXDock *> panels() const;
     /// Panels belong to the open scene: on the start screen there are none.
     void hidePanels();
     void restorePanels();
@@ -95,12 +96,15 @@ private:
     oVIXTitleBar *m_titleBar = nullptr;
     QString m_projectsFolder;
     QAction *m_openAction = nullptr;
+    QAction *m_newAction = nullptr;
     /// What is done to the file of the selected scene.
     QList<QAction *> m_fileActions;
     QAction *m_saveAction = nullptr;
     QAction *m_closeSceneAction = nullptr;
     QAction *m_factsAction = nullptr;
     QAction *m_maximizeAction = nullptr;
+    /// What is only there for an open scene.
+    QList<QMenu *> m_sceneMenus;
     LibraryPanel *m_library = nullptr;
     ParametersPanel *m_parameters = nullptr;
     TagsPanel *m_tags = nullptr;
