@@ -6,21 +6,36 @@
 
 #include "OvixSvgButton.h"
 #include "QClickableLabel.h"
+#include "QMultiCompleterLineEdit.h"
 #include "VelmoFeedbackConsentDialog.h"
 #include "VelmoMessageBox.h"
 #include "gallery/GalleryPages.h"
 #include "gallery/GalleryWindow.h"
+#include "oVIXDock.h"
+#include "oVIXDockBar.h"
+#include "oVIXDragTag.h"
+#include "oVIXPieChartWidget.h"
 #include "scenes/ShippedProjects.h"
 #include "start/StartScreen.h"
 #include "window/WorkstationWindow.h"
 
+#include <QAbstractButton>
+#include <QAbstractItemModel>
 #include <QDialog>
 #include <QDirIterator>
 #include <QHash>
+#include <QMainWindow>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QSet>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -107,7 +122,7 @@ QString faultOf(QAccessibleInterface *accessible, Answer answer)
     const QAccessible::Role role = accessible->role();
     if (role == QAccessible::NoRole || role == QAccessible::Client)
         return u"has no role"_s;
-    if (!isNamed(accessible) && role != QAccessible::MenuBar && role != QAccessible::PageTabList)
+    if (!isNamed(accessible))
         return u"has no name"_s;
     switch (answer) {
     case Answer::Press:
@@ -156,12 +171,106 @@ bool isPartOfOneControl(const QWidget *widget, const QSet<QObject *> &reached)
     return answer == Answer::Press || answer == Answer::Value || answer == Answer::Text;
 }
 
-/// What is wrong with everything that answers clicks in the window.
+QString describe(const QWidget *widget, const QString &fault)
+{
+    return u"%1 \"%2\" in %3: %4"_s.arg(QString::fromLatin1(widget->metaObject()->className()), widget->objectName(),
+                                        QString::fromLatin1(widget->parent()->metaObject()->className()), fault);
+}
+
+/// The signals that tell of a press, by class. Others open a menu or follow a link.
+const QHash<QByteArray, QList<const char *>> &tellingSignals()
+{
+    static const QHash<QByteArray, QList<const char *>> tell{
+        {"OvixSvgButton", {SIGNAL(clicked())}},   {"QAbstractButton", {SIGNAL(clicked(bool)), SIGNAL(toggled(bool))}},
+        {"QClickableLabel", {SIGNAL(clicked())}}, {"QClickableWidget", {SIGNAL(clicked())}},
+        {"oVIXButton", {SIGNAL(clicked())}},      {"SceneView", {SIGNAL(moverPicked(QString))}},
+        {"oVIXDragTag", {SIGNAL(doubleClick())}},
+    };
+    return tell;
+}
+
+/// Whether a press by assistive tools is told by the widget itself. Nobody else hears of it: what windows do with their
+/// buttons is not asked here. True for what tells in other ways.
+bool isPressHeard(QWidget *widget)
+{
+    QList<const char *> tell;
+    for (const QMetaObject *type = widget->metaObject(); type && tell.isEmpty(); type = type->superClass())
+        tell = tellingSignals().value(type->className());
+    const auto *tag = qobject_cast<const oVIXDragTag *>(widget);
+    const auto *button = qobject_cast<const QAbstractButton *>(widget);
+    if (tell.isEmpty() || (tag && tag->isAdd()) || (button && button->isCheckable() && button->isChecked()))
+        return true;
+    std::vector<std::unique_ptr<QSignalSpy>> spies;
+    for (const char *signal : std::as_const(tell)) {
+        QObject::disconnect(widget, signal, nullptr, nullptr);
+        spies.push_back(std::make_unique<QSignalSpy>(widget, signal));
+    }
+    const QStringList names = Assistive::of(widget)->actionInterface()->actionNames();
+    Assistive::act(widget,
+                   names.contains(QAccessibleActionInterface::pressAction())
+                       ? QAccessibleActionInterface::pressAction()
+                       : QAccessibleActionInterface::toggleAction());
+    return QTest::qWaitFor(
+        [&spies] { return std::any_of(spies.begin(), spies.end(), [](const auto &spy) { return !spy->isEmpty(); }); });
+}
+
+const oVIXPieChartWidget *pieAround(const QWidget *widget)
+{
+    while (widget && !qobject_cast<const oVIXPieChartWidget *>(widget))
+        widget = widget->parentWidget();
+    return static_cast<const oVIXPieChartWidget *>(widget);
+}
+
+/// Whether the widget is a share that no other slice can make up for.
+bool isOnlyShare(const QWidget *widget)
+{
+    const oVIXPieChartWidget *pie = pieAround(widget);
+    if (!pie)
+        return false;
+    int free = 0;
+    for (int row = 0; row < pie->model()->rowCount(); ++row)
+        free += pie->model()->index(row, 0).data(Qt::UserRole + 1).toBool() ? 0 : 1;
+    return free < 2;
+}
+
+/// Whether a value that it does not have can be set and read back. Three are told at least: a frame that is picked need
+/// not be there yet, and a bar of a range moves the handle that is nearer. A share becomes what the other slices leave.
+bool takesValues(QWidget *widget)
+{
+    QAccessibleInterface *accessible = Assistive::of(widget);
+    QAccessibleValueInterface *value = accessible->valueInterface();
+    const double least = value->minimumValue().toDouble();
+    const double most = value->maximumValue().toDouble();
+    if (accessible->state().readOnly || most <= least || isOnlyShare(widget))
+        return true; // shows what is
+    std::unique_ptr<QSignalSpy> told;
+    if (widget->inherits("OvixMovableLabel"))
+        told = std::make_unique<QSignalSpy>(widget, SIGNAL(editingFinished()));
+    else if (widget->inherits("oVIXProgressBar"))
+        told = std::make_unique<QSignalSpy>(widget, SIGNAL(valuePicked()));
+    else if (widget->inherits("oVIXSliderBar"))
+        told = std::make_unique<QSignalSpy>(widget, SIGNAL(valueChanged(double)));
+    const double before = value->currentValue().toDouble();
+    const double middle = (least + most) / 2;
+    for (const double other : {least, most, middle, std::round(middle)}) {
+        if (std::abs(other - before) < 0.01)
+            continue;
+        value->setCurrentValue(other);
+        const double now = value->currentValue().toDouble();
+        const bool isMoved = pieAround(widget) && std::abs(now - before) > 0.01;
+        if (std::abs(now - other) < 0.01 || isMoved || (told && !told->isEmpty()))
+            return true;
+    }
+    return false;
+}
+
+/// What is wrong with everything that answers clicks in the window. Its buttons tell nobody of presses afterwards.
 QStringList faultsIn(QWidget *window)
 {
     QSet<QObject *> reached;
     collect(Assistive::of(window), &reached);
     QStringList faults;
+    QList<QPointer<QWidget>> looked;
     const QList<QWidget *> widgets = window->findChildren<QWidget *>();
     for (QWidget *widget : widgets) {
         const Answer answer = answerOf(widget);
@@ -172,11 +281,18 @@ QStringList faultsIn(QWidget *window)
             continue;
         const QString fault =
             reached.contains(widget) ? faultOf(Assistive::of(widget), answer) : u"cannot be reached"_s;
-        if (!fault.isEmpty()) {
-            faults << u"%1 \"%2\" in %3: %4"_s.arg(
-                QString::fromLatin1(widget->metaObject()->className()), widget->objectName(),
-                QString::fromLatin1(widget->parent()->metaObject()->className()), fault);
-        }
+        if (!fault.isEmpty())
+            faults << describe(widget, fault);
+        else if (reached.contains(widget))
+            looked << widget;
+    }
+    for (const QPointer<QWidget> &widget : std::as_const(looked)) {
+        if (widget && answerOf(widget) == Answer::Value && !takesValues(widget))
+            faults << describe(widget, u"does not take a value"_s);
+    }
+    for (const QPointer<QWidget> &widget : std::as_const(looked)) {
+        if (widget && widget->isEnabled() && answerOf(widget) == Answer::Press && !isPressHeard(widget))
+            faults << describe(widget, u"tells nobody of a press"_s);
     }
     return faults;
 }
@@ -238,6 +354,31 @@ private slots:
         QVERIFY(Events::untilIdle());
         const QStringList faults = faultsIn(widget.get());
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    }
+
+    /// The pointer that the header waits for does not come from such tools.
+    void isReachedInAHeaderAtRest()
+    {
+        QMainWindow window;
+        auto *panel = new oVIXDock(&window, u"panel"_s, false, true, false, &window);
+        panel->setTitle(u"Library"_s, u"Kinds"_s, u"Inter"_s, 11);
+        panel->setSearchEnabled(true);
+        window.addDockWidget(Qt::LeftDockWidgetArea, panel);
+        Gestures::show(&window);
+        QCursor::setPos(window.geometry().bottomRight() + QPoint(50, 50));
+        panel->setHideSearchUntilHover(true);
+        QWidget *header = panel->getTitleWidget();
+        QCOMPARE(Assistive::of(header)->text(QAccessible::Name), u"Library: Kinds"_s);
+        QWidget *search = panel->getTitleWidget()->getSearchLabel();
+        QVERIFY(!search->isVisible());
+        QVERIFY(Assistive::act(header, u"Search"_s));
+        QVERIFY(search->isVisible());
+        QVERIFY(Assistive::act(header, u"Detach or dock"_s));
+        QTRY_VERIFY(panel->isFloating());
+        QVERIFY(Assistive::act(header, u"Close"_s));
+        QTRY_VERIFY(!panel->isVisible());
+        panel->showDetachCloseOptions(false);
+        QVERIFY(!Assistive::act(header, u"Close"_s));
     }
 
     void isUsedByAssistiveToolsInTheWindows_data()
