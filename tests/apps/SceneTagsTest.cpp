@@ -94,6 +94,15 @@ private slots:
         SceneTags::arrange(&scene, {}, {u"a"_s, u"b"_s});
         QCOMPARE(told(scene), u" | a,b | 2,3;3"_s);
     }
+
+    void whoHasNoTagsLeftIsAsBefore()
+    {
+        SceneMover person;
+        person.tags.reserve(1); // there are bytes now, unlike in a list that has never had any
+        QVERIFY(person == SceneMover());
+        person.tags << 1;
+        QVERIFY(person != SceneMover());
+    }
 };
 
 VELMO_TEST_MAIN(SceneTagsTest)
