@@ -74,10 +74,12 @@ bool holds(const oVIXSliderWidget *slider)
     return isBetween(slider->value(), slider->minimum() - rounding, slider->spinBoxMaximum() + rounding);
 }
 
+/// Playing begins with the crop, also where nothing has been computed yet.
 bool holds(const oVIXTimebarWidget *timebar)
 {
-    return timebar->getCropStartValue() <= timebar->getCropEndValue()
-        && isBetween(timebar->getCurrentPlayValue(), 0, std::max(0, timebar->getCached()));
+    const int first = timebar->getCropStartValue();
+    return first <= timebar->getCropEndValue()
+        && isBetween(timebar->getCurrentPlayValue(), 0, std::max(first, timebar->getCached()));
 }
 
 template <class Widget> bool allHold(const QWidget *root)

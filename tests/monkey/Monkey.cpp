@@ -1,5 +1,6 @@
 #include "monkey/Monkey.h"
 
+#include "monkey/Deleter.h"
 #include "monkey/Invariants.h"
 #include "monkey/LastWords.h"
 
@@ -7,10 +8,12 @@
 #include "VelmoMessageBox.h"
 
 #include <QApplication>
-#include <QDrag>
+#include <QDockWidget>
 #include <QFileDialog>
-#include <QScrollArea>
-#include <QWindow>
+#include <QScreen>
+#include <QThread>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -21,15 +24,26 @@ constexpr int eventsKept = 120;
 constexpr int eventsBetweenChecks = 100;
 constexpr int deepest = 6; // event loops inside each other
 constexpr int hopeless = 20000; // events to come to an end
+constexpr int mostWindows = 30; // on screen
+constexpr int mostDeletions = 8; // of one window
 
-QString nameOf(const QObject *object)
+qsizetype shownWindows()
 {
-    return object ? QLatin1String(object->metaObject()->className()) + u' ' + object->objectName() : u"nothing"_s;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::count_if(windows.begin(), windows.end(), std::mem_fn(&QWidget::isVisible));
+}
+
+bool inheritsAny(const QObject *object, const QStringList &classes)
+{
+    return std::any_of(classes.begin(), classes.end(),
+                       [object](const QString &name) { return object->inherits(qPrintable(name)); });
 }
 
 } // namespace
 
-Monkey::Monkey(quint32 seed, Rules rules, QObject *parent) : QObject(parent), m_random(seed), m_rules(std::move(rules))
+Monkey::Monkey(quint32 seed, Rules rules, QObject *parent)
+    : QObject(parent), m_random(seed), m_rules(std::move(rules)),
+      m_hands(&m_random, [this](const QString &what) { note(what); })
 {
     m_turn.setSingleShot(true);
     connect(&m_turn, &QTimer::timeout, this, &Monkey::turn);
@@ -100,7 +114,7 @@ void Monkey::turn()
     --m_depth;
 
     if (m_root && m_flaw.isEmpty() && m_sent % eventsBetweenChecks == 0)
-        m_flaw = Invariants::flawIn(m_root);
+        m_flaw = shownWindows() > mostWindows ? u"too many windows"_s : Invariants::flawIn(m_root);
 }
 
 void Monkey::finish()
@@ -112,7 +126,7 @@ void Monkey::finish()
 
 void Monkey::endLife()
 {
-    releaseAll();
+    m_hands.releaseAll();
     note(u"the end of "_s + nameOf(m_root));
     delete m_root;
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -140,30 +154,31 @@ void Monkey::act()
     }
     if (m_root->isMinimized() && chance(10))
         m_root->showNormal();
-    if (!m_plan.isEmpty()) {
-        doStep(m_plan.takeFirst());
+    if (m_hands.isBusy()) {
+        m_hands.goOn();
         return;
     }
 
     struct Choice
     {
         int weight;
-        void (Monkey::*act)();
+        void (*act)(Monkey *);
     };
     static constexpr Choice choices[]{
-        {400, &Monkey::planPointer},
-        {120, &Monkey::pressKey},
-        {40, &Monkey::turnWheel},
-        {30, &Monkey::focusSomething},
-        {8, &Monkey::compose},
-        {12, &Monkey::dropSomething},
-        {10, &Monkey::resizeWindow},
-        {4, &Monkey::sendChange},
-        {3, &Monkey::changeWindowState},
-        {12, &Monkey::changePart},
-        {3, &Monkey::deletePart},
-        {3, &Monkey::deleteOnSignal},
-        {3, &Monkey::wait},
+        {400, [](Monkey *self) { self->m_hands.usePointer(); }},
+        {120, [](Monkey *self) { self->m_hands.pressKey(); }},
+        {40, [](Monkey *self) { self->m_hands.turnWheel(); }},
+        {30, [](Monkey *self) { self->m_hands.focusSomething(); }},
+        {8, [](Monkey *self) { self->m_hands.compose(); }},
+        {12, [](Monkey *self) { self->m_hands.dropSomething(); }},
+        {10, [](Monkey *self) { self->resizeWindow(); }},
+        {3, [](Monkey *self) { self->changeScreen(); }},
+        {4, [](Monkey *self) { self->sendChange(); }},
+        {3, [](Monkey *self) { self->changeWindowState(); }},
+        {12, [](Monkey *self) { self->changePart(); }},
+        {3, [](Monkey *self) { self->deletePart(); }},
+        {3, [](Monkey *self) { self->deleteOnSignal(); }},
+        {3, [](Monkey *self) { self->wait(); }},
     };
     int total = 0;
     for (const Choice &choice : choices)
@@ -172,7 +187,7 @@ void Monkey::act()
     for (const Choice &choice : choices) {
         drawn -= choice.weight;
         if (drawn < 0)
-            return (this->*choice.act)();
+            return choice.act(this);
     }
 }
 
@@ -189,9 +204,8 @@ void Monkey::closeGuest()
 {
     QWidget *front = guest();
     note(u"close "_s + nameOf(front));
-    if (!front) { // a drag
-        QDrag::cancel();
-        releaseAll();
+    if (!front) { // a drag, or what ends by itself
+        m_hands.giveUp();
     } else if (auto *box = qobject_cast<VelmoMessageWidget *>(front)) {
         const auto answers = {&VelmoMessageWidget::fnAccept, &VelmoMessageWidget::fnReject,
                               &VelmoMessageWidget::fnOther};
@@ -200,15 +214,6 @@ void Monkey::closeGuest()
         dialog->done(m_random.bounded(2));
     } else {
         front->close();
-    }
-}
-
-void Monkey::releaseAll()
-{
-    m_plan.clear();
-    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
-        if (m_held.testFlag(button))
-            sendMouse(QEvent::MouseButtonRelease, button);
     }
 }
 
@@ -231,4 +236,152 @@ bool Monkey::eventFilter(QObject *watched, QEvent *event)
     default:
         return false;
     }
+}
+
+bool Monkey::isWhole(const QWidget *widget) const
+{
+    if (!widget || widget->isWindow())
+        return false;
+    if (inheritsAny(widget, m_rules.wholes) || m_rules.wholes.contains(widget->objectName()))
+        return true;
+    return qstrcmp(widget->metaObject()->className(), "QWidget") == 0 && isWhole(widget->parentWidget());
+}
+
+/// The widgets that the application's own code has made, and the panels that its user can close. What those of the
+/// library and of the toolkit are made of is theirs.
+QList<QWidget *> Monkey::ownParts() const
+{
+    QWidgetList parts;
+    for (QWidget *part : m_root->findChildren<QWidget *>()) {
+        const auto *panel = qobject_cast<QDockWidget *>(part);
+        const bool isOpen = panel && panel->parent() == m_root && panel->toggleViewAction()->isEnabled();
+        if (isOpen || (!part->isWindow() && isWhole(part->parentWidget())))
+            parts << part;
+    }
+    return parts;
+}
+
+QList<QWidget *> Monkey::mortals() const
+{
+    if (m_rules.deletesParts)
+        return ownParts();
+    QWidgetList found;
+    for (QWidget *widget : m_root->findChildren<QWidget *>()) {
+        if (inheritsAny(widget, m_rules.mortals) && widget->isVisible())
+            found << widget;
+    }
+    return found;
+}
+
+QWidget *Monkey::pickFrom(const QList<QWidget *> &widgets)
+{
+    return widgets.isEmpty() ? nullptr : widgets[m_random.bounded(int(widgets.size()))];
+}
+
+void Monkey::resizeWindow()
+{
+    const QSize size(m_random.bounded(1800), m_random.bounded(1400));
+    note(u"resize to %1 x %2"_s.arg(size.width()).arg(size.height()));
+    m_root->resize(size);
+}
+
+void Monkey::changeWindowState()
+{
+    note(u"window state"_s);
+    if (chance(3))
+        m_root->showMinimized();
+    else if (chance(2))
+        m_root->showMaximized();
+    else
+        m_root->showNormal();
+}
+
+/// As a user who has screens of several densities.
+void Monkey::changeScreen()
+{
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    QWidget *window = m_hands.pickWindow();
+    if (!window || screens.size() < 2)
+        return;
+    const QScreen *screen = screens[m_random.bounded(int(screens.size()))];
+    note(u"%1 to the screen %2"_s.arg(nameOf(window), screen->name()));
+    window->move(screen->geometry().topLeft() + QPoint(m_random.bounded(300), m_random.bounded(300)));
+}
+
+/// Hides, disables or resizes a part, or makes up for it.
+void Monkey::changePart()
+{
+    QWidget *part = pickFrom(ownParts());
+    if (!part)
+        return;
+    const int what = m_random.bounded(5);
+    note(u"change %1: %2"_s.arg(nameOf(part)).arg(what));
+    switch (what) {
+    case 0:
+        part->setVisible(part->isHidden());
+        break;
+    case 1:
+        part->setEnabled(!part->isEnabled());
+        break;
+    case 2:
+        part->resize(0, 0);
+        break;
+    case 3: // parts that paint all of themselves at once would take gigabytes for more
+        part->resize(m_random.bounded(1, 4000), m_random.bounded(1, 4000));
+        break;
+    default:
+        part->setEnabled(true);
+        part->show();
+        break;
+    }
+}
+
+/// What the system tells when the user changes its settings.
+void Monkey::sendChange()
+{
+    QWidget *window = m_hands.pickWindow();
+    if (!window)
+        return;
+    QWidget *widget = m_hands.pickWidget(window);
+    static constexpr QEvent::Type types[]{
+        QEvent::LanguageChange,        QEvent::FontChange,       QEvent::PaletteChange, QEvent::StyleChange,
+        QEvent::LayoutDirectionChange, QEvent::WindowDeactivate, QEvent::WindowActivate};
+    const QEvent::Type type = types[m_random.bounded(int(std::size(types)))];
+    note(u"%1 for %2"_s.arg(QVariant::fromValue(type).toString(), nameOf(widget)));
+    QEvent event(type);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
+void Monkey::deletePart()
+{
+    QWidget *part = ++m_deletions < mostDeletions ? pickFrom(mortals()) : nullptr;
+    if (chance(m_rules.deletesParts ? 20 : 5))
+        part = m_root;
+    if (!part)
+        return;
+    const bool atOnce = chance(2);
+    note(u"delete %1 %2"_s.arg(nameOf(part), atOnce ? u"at once"_s : u"later"_s));
+    if (atOnce)
+        delete part;
+    else
+        part->deleteLater();
+}
+
+void Monkey::deleteOnSignal()
+{
+    QWidget *part = m_rules.deletesParts ? pickFrom(ownParts()) : nullptr;
+    if (!part)
+        return;
+    const QString name = QLatin1String(part->metaObject()->className());
+    if (!m_rules.diesOfSignals.contains(name))
+        return;
+    note(u"delete %1 when it tells something"_s.arg(nameOf(part)));
+    new Deleter(part, Deleter::ownSignals(*part->metaObject()), m_rules.diesOfSignals[name], part);
+}
+
+/// Lets timers and animations come to their end.
+void Monkey::wait()
+{
+    note(u"wait"_s);
+    QThread::msleep(20);
 }

@@ -1,21 +1,13 @@
 #pragma once
 
-#include <QEvent>
+#include "monkey/Hands.h"
+
 #include <QHash>
-#include <QObject>
-#include <QPointF>
-#include <QPointer>
-#include <QRandomGenerator>
 #include <QStringList>
 #include <QTimer>
-#include <QWidget>
 
-#include <functional>
-
-class QWindow;
-
-/// Uses a window as nobody would: moves the pointer, presses buttons and keys, turns the wheel, resizes, hides,
-/// disables and deletes, all at random, and looks now and then whether everything still holds together.
+/// Uses a window as nobody would: lets its hands use pointer and keys, resizes, moves, hides, disables and deletes, all
+/// at random, and looks now and then whether everything still holds together.
 ///
 /// What is done follows from the seed. Timers and animations run by the clock, so a second run with the same seed is
 /// much the same, not exactly. Whatever opens is closed again: menus, dialogs, drags and message boxes with event loops
@@ -32,9 +24,11 @@ public:
         /// Names of classes whose objects the receivers of their signals delete; at once where that is true, else
         /// later.
         QHash<QString, bool> diesOfSignals;
-        /// Whether single widgets are hidden, disabled and resized, and whether they are deleted.
-        bool changesParts = true;
+        /// What has parts of its own, which are hidden, disabled and resized one by one: names of classes or objects.
+        QStringList wholes = {QStringLiteral("GalleryPage"), QStringLiteral("SampleSection")};
+        /// Whether these parts are deleted too; else only the window is and, while they show, objects of `mortals`.
         bool deletesParts = true;
+        QStringList mortals;
     };
 
     Monkey(quint32 seed, Rules rules, QObject *parent = nullptr);
@@ -54,8 +48,6 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    enum class Step { Move, Press, Release };
-
     void turn();
     void act();
     void endLife();
@@ -65,22 +57,14 @@ private:
 
     // What to do it to.
     QWidget *guest() const;
-    QWidget *pickWindow();
-    QWidget *pickWidget(QWidget *window);
+    bool isWhole(const QWidget *widget) const;
     QList<QWidget *> ownParts() const;
-    QWidget *pickPart();
-    bool aim();
+    QList<QWidget *> mortals() const;
+    QWidget *pickFrom(const QList<QWidget *> &widgets);
 
-    // Events.
-    void planPointer();
-    void doStep(Step step);
-    void sendMouse(QEvent::Type type, Qt::MouseButton button);
-    void turnWheel();
-    void pressKey();
-    void compose();
-    void focusSomething();
-    void dropSomething();
+    // What is done besides the work of the hands.
     void resizeWindow();
+    void changeScreen();
     void changeWindowState();
     void changePart();
     void sendChange();
@@ -88,10 +72,10 @@ private:
     void deleteOnSignal();
     void wait();
     void closeGuest();
-    void releaseAll();
 
     QRandomGenerator m_random;
     const Rules m_rules;
+    Hands m_hands;
     Create m_create;
     QPointer<QWidget> m_root;
     QTimer m_turn;
@@ -102,11 +86,5 @@ private:
     bool m_finished = true;
     QString m_flaw;
     QStringList m_log;
-    QList<Step> m_plan;
-    Qt::MouseButton m_planned = Qt::LeftButton;
-    QPointer<QWindow> m_window;
-    QPointF m_place; // in the window
-    Qt::MouseButtons m_held;
-    int m_clock = 0; // of mouse events, in milliseconds
     int m_deletions = 0;
 };

@@ -8,6 +8,8 @@
 #include "look/ApplicationLook.h"
 #include "look/Wording.h"
 #include "scenes/ShippedProjects.h"
+#include "start/StartScreen.h"
+#include "window/ScenePage.h"
 #include "window/WorkstationWindow.h"
 
 #include <QApplication>
@@ -15,6 +17,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QOperatingSystemVersion>
+#include <QScreen>
 #include <QScrollArea>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -35,6 +38,8 @@ struct Options
     int shares = 1;
 };
 Options options;
+
+constexpr auto workstation = "workstation"_L1; // the row of the window
 
 Monkey *playing = nullptr;
 QtMessageHandler handlerBefore = nullptr;
@@ -72,9 +77,11 @@ Monkey::Rules rulesFor(const QString &row)
         });
         rules.diesOfSignals.insert(QString::fromLatin1(sender.className), atOnce);
     }
-    const bool isWindow = row == u"workstation"_s;
-    rules.changesParts = !isWindow;
-    rules.deletesParts = !isWindow && row != u"overlays"_s; // which keeps one of its windows
+    rules.deletesParts = row != workstation && row != u"overlays"_s; // which keep some of theirs
+    if (row == workstation) {
+        rules.wholes = {u"StartScreen"_s, u"ScenePage"_s, u"CrowdEditor"_s, u"panel"_s};
+        rules.mortals = {u"oVIXDialog"_s, u"oVIXGuideOverlay"_s};
+    }
     return rules;
 }
 
@@ -93,6 +100,8 @@ private slots:
     {
         std::printf("Replay with --seed %u --events %d --share %d/%d\n", options.seed, options.events, options.share,
                     options.shares);
+        for (const QScreen *screen : QGuiApplication::screens())
+            std::printf("Screen of density %g\n", screen->devicePixelRatio());
         QCoreApplication::setOrganizationName(u"Test"_s);
         keepSettingsIn(m_folder.path());
         // The trash is beside the user's files.
@@ -116,7 +125,7 @@ private slots:
     {
         QTest::addColumn<int>("number");
         QTest::addColumn<int>("events");
-        QStringList names{u"workstation"_s};
+        QStringList names{QString(workstation)};
         for (const GalleryPages::Page &page : GalleryPages::all())
             names << page.id;
         for (int i = options.share - 1; i < int(names.size()); i += options.shares)
@@ -144,11 +153,15 @@ private slots:
     }
 
 private:
-    /// To make a page of a thousand rows takes as long as hundreds of events.
+    /// The window, which has more to it than a page, gets a tenth. To make a page of a thousand rows takes as long as
+    /// hundreds of events.
     static int eventsFor(const QString &row, int rows)
     {
+        const int forWindow = options.events / 10;
+        if (row == workstation)
+            return forWindow;
         const QStringList costly{u"project-list"_s, u"scene-list"_s, u"project-scenes"_s};
-        const int events = options.events / (rows - int(costly.size()));
+        const int events = (options.events - forWindow) / (rows - 1 - int(costly.size()));
         return costly.contains(row) ? events / 8 : events;
     }
 
@@ -163,20 +176,31 @@ private:
         return area;
     }
 
-    /// The window with copies of the shipped projects.
+    /// The window with copies of the shipped projects: as it starts the first time, or with a scene that is baked.
     QWidget *createWindow()
     {
         m_projects = std::make_unique<QTemporaryDir>();
         copyFolder(ShippedProjects::folder(), m_projects->path());
         m_settings = std::make_unique<QSettings>(m_folder.filePath(u"window.ini"_s), QSettings::IniFormat);
         auto *window = new WorkstationWindow(m_projects->path(), m_settings.get());
-        QTimer::singleShot(0, window, &WorkstationWindow::beginOnboarding);
+        m_opensScene = !m_opensScene;
+        if (!m_opensScene) {
+            QTimer::singleShot(0, window, &WorkstationWindow::beginOnboarding);
+            return window;
+        }
+        const auto bake = [window] {
+            if (window->showsScene())
+                window->scenePage()->toggleBaking();
+        };
+        connect(window, &WorkstationWindow::loadingFinished, window, bake, Qt::SingleShotConnection);
+        window->openScene(window->startScreen()->projects().constFirst().scenes().constFirst().path);
         return window;
     }
 
     QTemporaryDir m_folder;
     std::unique_ptr<QTemporaryDir> m_projects;
     std::unique_ptr<QSettings> m_settings;
+    bool m_opensScene = false;
 };
 
 /// Takes an option and its value out of the arguments; what other options there are is for the test library.

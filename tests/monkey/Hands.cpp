@@ -1,6 +1,4 @@
-#include "monkey/Monkey.h"
-
-#include "monkey/Deleter.h"
+#include "monkey/Hands.h"
 
 #include "VelmoDropData.h"
 
@@ -11,7 +9,6 @@
 #include <QMimeData>
 #include <QScrollArea>
 #include <QTest>
-#include <QThread>
 #include <QWheelEvent>
 #include <QWindow>
 
@@ -20,13 +17,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int longestClick = 120; // milliseconds
-constexpr int mostWindows = 30; // on screen
-constexpr int mostDeletions = 8; // of one window
-
-QString describe(const QWidget *widget)
-{
-    return QLatin1String(widget->metaObject()->className()) + u' ' + widget->objectName();
-}
 
 bool isBlocked(const QWidget *window)
 {
@@ -65,7 +55,16 @@ QList<KeyStroke> keyStrokes()
 
 } // namespace
 
-QWidget *Monkey::pickWindow()
+QString nameOf(const QObject *object)
+{
+    return object ? QLatin1String(object->metaObject()->className()) + u' ' + object->objectName() : u"nothing"_s;
+}
+
+Hands::Hands(QRandomGenerator *random, std::function<void(const QString &)> note)
+    : m_random(random), m_note(std::move(note))
+{ }
+
+QWidget *Hands::pickWindow()
 {
     if (QWidget *popup = QApplication::activePopupWidget())
         return popup;
@@ -74,19 +73,21 @@ QWidget *Monkey::pickWindow()
         if (window->isVisible() && window->windowHandle() && !isBlocked(window))
             windows << window;
     }
-    if (windows.size() > mostWindows)
-        stop(u"too many windows"_s);
     // Their order is that of addresses.
     std::sort(windows.begin(), windows.end(),
-              [](const QWidget *left, const QWidget *right) { return describe(left) < describe(right); });
-    return windows.isEmpty() ? nullptr : windows[m_random.bounded(int(windows.size()))];
+              [](const QWidget *left, const QWidget *right) { return nameOf(left) < nameOf(right); });
+    return windows.isEmpty() ? nullptr : windows[m_random->bounded(int(windows.size()))];
 }
 
-/// A widget that is seen, large or small alike.
-QWidget *Monkey::pickWidget(QWidget *window)
+QWidget *Hands::pickWidget(QWidget *window)
 {
+    if (chance(2)) { // small ones, such as grips, are many
+        QWidget *seen = window->childAt(m_random->bounded(std::max(1, window->width())),
+                                        m_random->bounded(std::max(1, window->height())));
+        return seen ? seen : window;
+    }
     QWidget *found = window;
-    while (m_random.bounded(10) > 0) {
+    while (m_random->bounded(10) > 0) {
         QWidgetList parts;
         for (QObject *child : found->children()) {
             auto *part = qobject_cast<QWidget *>(child);
@@ -95,62 +96,36 @@ QWidget *Monkey::pickWidget(QWidget *window)
         }
         if (parts.isEmpty())
             break;
-        found = parts[m_random.bounded(int(parts.size()))];
+        found = parts[m_random->bounded(int(parts.size()))];
     }
     if (auto *area = qobject_cast<QScrollArea *>(window); area && found->visibleRegion().isEmpty())
         area->ensureWidgetVisible(found);
     return found;
 }
 
-/// The widgets that the page's own code has made. What those of the library and of the toolkit are made of is theirs.
-QList<QWidget *> Monkey::ownParts() const
-{
-    QWidgetList parts;
-    const auto *area = qobject_cast<QScrollArea *>(m_root.data());
-    QWidgetList open{area ? area->widget() : nullptr};
-    while (!open.isEmpty()) {
-        const QWidget *whole = open.takeLast();
-        for (QObject *child : whole ? whole->children() : QObjectList()) {
-            auto *part = qobject_cast<QWidget *>(child);
-            if (!part || part->isWindow())
-                continue;
-            parts << part;
-            const QByteArray name = part->metaObject()->className();
-            if (name == "QWidget" || name == "SampleSection")
-                open << part;
-        }
-    }
-    return parts;
-}
-
-QWidget *Monkey::pickPart()
-{
-    const QWidgetList parts = ownParts();
-    return parts.isEmpty() ? nullptr : parts[m_random.bounded(int(parts.size()))];
-}
-
 /// Chooses where the pointer goes next. While a button is held it stays with its window, as on a desktop.
-bool Monkey::aim()
+bool Hands::aim()
 {
     if (m_held && m_window && m_window->isVisible()) {
-        m_place += QPointF(m_random.bounded(-80, 81), m_random.bounded(-30, 31));
+        m_place += QPointF(m_random->bounded(-80, 81), m_random->bounded(-30, 31));
         return true;
     }
     QWidget *window = pickWindow();
     if (!window)
         return false;
     QWidget *widget = pickWidget(window);
-    const QPoint point(m_random.bounded(std::max(1, widget->width())), m_random.bounded(std::max(1, widget->height())));
+    const QPoint point(m_random->bounded(std::max(1, widget->width())),
+                       m_random->bounded(std::max(1, widget->height())));
     m_window = window->windowHandle();
     m_place = widget->mapTo(window, point);
-    note(u"aim at %1 (%2, %3)"_s.arg(describe(widget)).arg(point.x()).arg(point.y()));
+    m_note(u"aim at %1 (%2, %3)"_s.arg(nameOf(widget)).arg(point.x()).arg(point.y()));
     return true;
 }
 
-void Monkey::planPointer()
+void Hands::usePointer()
 {
     m_planned = chance(8) ? Qt::RightButton : chance(20) ? Qt::MiddleButton : Qt::LeftButton;
-    switch (m_random.bounded(6)) {
+    switch (m_random->bounded(6)) {
     case 0:
         m_plan = {Step::Move};
         break;
@@ -168,12 +143,12 @@ void Monkey::planPointer()
         m_plan = {Step::Move, Step::Press};
         break;
     }
-    doStep(m_plan.takeFirst());
+    goOn();
 }
 
-void Monkey::doStep(Step step)
+void Hands::goOn()
 {
-    switch (step) {
+    switch (m_plan.takeFirst()) {
     case Step::Move:
         if (aim())
             sendMouse(QEvent::MouseMove, Qt::NoButton);
@@ -189,9 +164,9 @@ void Monkey::doStep(Step step)
     }
 }
 
-void Monkey::sendMouse(QEvent::Type type, Qt::MouseButton button)
+void Hands::sendMouse(QEvent::Type type, Qt::MouseButton button)
 {
-    m_clock += m_random.bounded(10, longestClick);
+    m_clock += m_random->bounded(10, longestClick);
     if (type == QEvent::MouseButtonPress)
         m_held |= button;
     if (type == QEvent::MouseButtonRelease)
@@ -202,9 +177,9 @@ void Monkey::sendMouse(QEvent::Type type, Qt::MouseButton button)
     }
     if (!m_window)
         return;
-    note(u"%1 %2 at (%3, %4)"_s.arg(QVariant::fromValue(type).toString(), QVariant::fromValue(button).toString())
-             .arg(m_place.x())
-             .arg(m_place.y()));
+    m_note(u"%1 %2 at (%3, %4)"_s.arg(QVariant::fromValue(type).toString(), QVariant::fromValue(button).toString())
+               .arg(m_place.x())
+               .arg(m_place.y()));
     const QPointF global = m_window->mapToGlobal(m_place);
     if (type == QEvent::MouseMove)
         QCursor::setPos(global.toPoint());
@@ -213,27 +188,28 @@ void Monkey::sendMouse(QEvent::Type type, Qt::MouseButton button)
         qt_handleMouseEvent(m_window, m_place, global, m_held, button, type, {}, m_clock);
 }
 
-void Monkey::turnWheel()
+void Hands::turnWheel()
 {
     if (!aim())
         return;
-    const QPoint angle = chance(5) ? QPoint(m_random.bounded(-240, 241), 0) : QPoint(0, m_random.bounded(-360, 361));
-    note(u"wheel %1, %2"_s.arg(angle.x()).arg(angle.y()));
+    const QPoint angle = chance(5) ? QPoint(m_random->bounded(-240, 241), 0) : QPoint(0, m_random->bounded(-360, 361));
+    m_note(u"wheel %1, %2"_s.arg(angle.x()).arg(angle.y()));
     QWheelEvent wheel(m_place, m_window->mapToGlobal(m_place), {}, angle, m_held, {}, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(m_window, &wheel);
 }
 
-void Monkey::pressKey()
+void Hands::pressKey()
 {
     static const QList<KeyStroke> strokes = keyStrokes();
-    const KeyStroke stroke = strokes[m_random.bounded(int(strokes.size()))];
+    const KeyStroke stroke = strokes[m_random->bounded(int(strokes.size()))];
     if (!QGuiApplication::focusWindow()) {
-        note(u"activate"_s);
-        m_root->activateWindow();
+        m_note(u"activate"_s);
+        if (QWidget *window = pickWindow())
+            window->activateWindow();
         return;
     }
     const QPointer<QWindow> window = QGuiApplication::focusWindow();
-    note(u"key %1"_s.arg(QKeySequence(stroke.modifiers | stroke.key).toString(QKeySequence::PortableText)));
+    m_note(u"key %1"_s.arg(QKeySequence(stroke.modifiers | stroke.key).toString(QKeySequence::PortableText)));
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         if (window)
             qt_handleKeyEvent(window, type, stroke.key, stroke.modifiers, stroke.text);
@@ -241,12 +217,12 @@ void Monkey::pressKey()
 }
 
 /// What an input method does.
-void Monkey::compose()
+void Hands::compose()
 {
     QWidget *focused = QApplication::focusWidget();
     if (!focused || !focused->testAttribute(Qt::WA_InputMethodEnabled))
         return;
-    note(u"compose in "_s + describe(focused));
+    m_note(u"compose in "_s + nameOf(focused));
     const bool commits = chance(2);
     QInputMethodEvent event(commits ? QString() : u"に"_s, {});
     if (commits)
@@ -254,20 +230,20 @@ void Monkey::compose()
     QCoreApplication::sendEvent(focused, &event);
 }
 
-void Monkey::focusSomething()
+void Hands::focusSomething()
 {
     QWidget *window = pickWindow();
     if (!window)
         return;
     QWidget *widget = pickWidget(window);
-    note(u"focus "_s + describe(widget));
+    m_note(u"focus "_s + nameOf(widget));
     const QPointer<QWidget> focused(widget);
     window->activateWindow();
     if (focused)
         focused->setFocus(Qt::TabFocusReason);
 }
 
-void Monkey::dropSomething()
+void Hands::dropSomething()
 {
     if (!aim())
         return;
@@ -276,9 +252,9 @@ void Monkey::dropSomething()
         widget = widget->parentWidget();
     if (!widget)
         return;
-    note(u"drop on "_s + describe(widget));
+    m_note(u"drop on "_s + nameOf(widget));
     const QPointer<QWidget> target(widget);
-    const auto type = VelmoDropData::Type(m_random.bounded(6));
+    const auto type = VelmoDropData::Type(m_random->bounded(6));
     const std::unique_ptr<QMimeData> data(VelmoDropData({{u"Tree"_s, {}}}, type).getMimeData());
     const QPoint point = widget->rect().center();
     QDragEnterEvent enter(point, Qt::CopyAction | Qt::MoveAction, data.get(), Qt::LeftButton, {});
@@ -297,98 +273,18 @@ void Monkey::dropSomething()
         QCoreApplication::sendEvent(target, &drop);
 }
 
-void Monkey::resizeWindow()
+void Hands::releaseAll()
 {
-    const QSize size(m_random.bounded(1800), m_random.bounded(1400));
-    note(u"resize to %1 x %2"_s.arg(size.width()).arg(size.height()));
-    m_root->resize(size);
-}
-
-void Monkey::changeWindowState()
-{
-    note(u"window state"_s);
-    if (chance(3))
-        m_root->showMinimized();
-    else if (chance(2))
-        m_root->showMaximized();
-    else
-        m_root->showNormal();
-}
-
-/// Hides, disables or resizes a part, or makes up for it.
-void Monkey::changePart()
-{
-    QWidget *part = m_rules.changesParts ? pickPart() : nullptr;
-    if (!part)
-        return;
-    const int what = m_random.bounded(5);
-    note(u"change %1: %2"_s.arg(describe(part)).arg(what));
-    switch (what) {
-    case 0:
-        part->setVisible(part->isHidden());
-        break;
-    case 1:
-        part->setEnabled(!part->isEnabled());
-        break;
-    case 2:
-        part->resize(0, 0);
-        break;
-    case 3: // parts that paint all of themselves at once would take gigabytes for more
-        part->resize(m_random.bounded(1, 4000), m_random.bounded(1, 4000));
-        break;
-    default:
-        part->setEnabled(true);
-        part->show();
-        break;
+    m_plan.clear();
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+        if (m_held.testFlag(button))
+            sendMouse(QEvent::MouseButtonRelease, button);
     }
 }
 
-/// What the system tells when the user changes its settings.
-void Monkey::sendChange()
+void Hands::giveUp()
 {
-    QWidget *window = pickWindow();
-    if (!window)
-        return;
-    QWidget *widget = pickWidget(window);
-    static constexpr QEvent::Type types[]{
-        QEvent::LanguageChange,        QEvent::FontChange,           QEvent::PaletteChange,    QEvent::StyleChange,
-        QEvent::LayoutDirectionChange, QEvent::ScreenChangeInternal, QEvent::WindowDeactivate, QEvent::WindowActivate};
-    const QEvent::Type type = types[m_random.bounded(int(std::size(types)))];
-    note(u"%1 for %2"_s.arg(QVariant::fromValue(type).toString(), describe(widget)));
-    QEvent event(type);
-    QCoreApplication::sendEvent(widget, &event);
-}
-
-void Monkey::deletePart()
-{
-    QWidget *part = m_rules.deletesParts && ++m_deletions < mostDeletions ? pickPart() : nullptr;
-    if (!m_rules.changesParts || chance(20))
-        part = m_root;
-    if (!part)
-        return;
-    const bool atOnce = chance(2);
-    note(u"delete %1 %2"_s.arg(describe(part), atOnce ? u"at once"_s : u"later"_s));
-    if (atOnce)
-        delete part;
-    else
-        part->deleteLater();
-}
-
-void Monkey::deleteOnSignal()
-{
-    QWidget *part = m_rules.deletesParts ? pickPart() : nullptr;
-    if (!part)
-        return;
-    const QString name = QLatin1String(part->metaObject()->className());
-    if (!m_rules.diesOfSignals.contains(name))
-        return;
-    note(u"delete %1 when it tells something"_s.arg(describe(part)));
-    new Deleter(part, Deleter::ownSignals(*part->metaObject()), m_rules.diesOfSignals[name], part);
-}
-
-/// Lets timers and animations come to their end.
-void Monkey::wait()
-{
-    note(u"wait"_s);
-    QThread::msleep(20);
+    if (QWindow *window = QGuiApplication::focusWindow())
+        qt_handleKeyEvent(window, QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    releaseAll();
 }
