@@ -96,6 +96,17 @@ QList<Senders::Sender> Senders::ofFrameAndDocking()
     const Act typeSearch = with<QWidget>(search);
     const Act clear = with<QWidget>(clearSearch);
     return {
+        {"FloatingOption",
+         [](QWidget *host) -> QObject * {
+             auto *selector = new oVIXFloatingSelectorWidget(100, false, host);
+             selector->addButton({u"a"_s, u"Actors"_s}, true);
+             return selector->findChild<QAbstractButton *>();
+         },
+         {{"reached()", with<QWidget>([](QWidget *option) {
+               showAt(static_cast<oVIXFloatingWidget *>(option->parentWidget()));
+               Gestures::hover(option);
+           }),
+           Deletion::Later}}},
         {"OvixThumbnailSizeWidget",
          [](QWidget *host) {
              auto *chooser = new OvixThumbnailSizeWidget(host);

@@ -18,6 +18,8 @@
 /// The parts of the list of senders, and what their causes are made of.
 namespace Senders {
 
+/// Of the sample application, where it is built.
+QList<Sender> ofApplication();
 QList<Sender> ofFoundationAndChoosers();
 QList<Sender> ofFrameAndDocking();
 QList<Sender> ofMessagesAndBrowser();

@@ -2,5 +2,10 @@
 
 QList<Senders::Sender> Senders::all()
 {
-    return ofFoundationAndChoosers() + ofFrameAndDocking() + ofMessagesAndBrowser() + ofTags() + ofValues();
+    QList<Sender> senders =
+        ofFoundationAndChoosers() + ofFrameAndDocking() + ofMessagesAndBrowser() + ofTags() + ofValues();
+#ifdef VELMO_APPLICATION
+    senders += ofApplication();
+#endif
+    return senders;
 }

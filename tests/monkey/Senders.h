@@ -8,10 +8,11 @@
 class QObject;
 class QWidget;
 
-/// Every public class that has signals: how to make one, and what a user does to get each signal.
+/// Every class of the library and of its sample application that has signals: how to make one, and what a user does to
+/// get each signal.
 namespace Senders {
 
-/// When a receiver of the signal may delete the sender, as its header says.
+/// When a receiver of the signal may delete the sender, as its header says or its callers allow.
 enum class Deletion { AtOnce, Later };
 
 /// What leads to a signal.

@@ -1,6 +1,6 @@
 #include "monkey/Deleter.h"
-#include "monkey/PublicHeaders.h"
 #include "monkey/Senders.h"
+#include "monkey/SignalHeaders.h"
 #include "support/Gestures.h"
 #include "support/OwnSettings.h"
 #include "support/TestCase.h"
@@ -64,7 +64,7 @@ private slots:
                 known << signal.methodSignature();
             QCOMPARE(caused, known);
         }
-        QStringList exported = PublicHeaders::classesWithSignals();
+        QStringList exported = SignalHeaders::classesWithSignals();
         classes.sort();
         exported.sort();
         QCOMPARE(classes, exported);
