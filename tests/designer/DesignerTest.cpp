@@ -6,6 +6,7 @@
 #include "choosers/oVIXCombo.h"
 #include "foundation/OvixSvgButton.h"
 #include "foundation/oVIXFrameBorder.h"
+#include "values/oVIXSliderBar.h"
 #include "values/oVIXSliderWidget.h"
 
 #include <QBuffer>
@@ -227,6 +228,8 @@ private slots:
         const auto *speed = form->findChild<oVIXSliderWidget *>(u"speed"_s);
         QCOMPARE(speed->property("mode").toInt(), int(oVIXSliderWidget::DoubleRange));
         QCOMPARE(speed->valueMin(), 2.5);
+        QCOMPARE(speed->findChild<oVIXSliderBar *>()->text(), u"Speed"_s);
+        QCOMPARE(form->findChild<QWidget *>(u"spread"_s)->findChild<oVIXSliderBar *>()->text(), u"Spread"_s);
         QVERIFY(form->findChild<VelmoCurtainWidget *>(u"section"_s)->isExpanded());
         QVERIFY(!form->findChild<oVIXCombo *>(u"behaviour"_s)->isOverride());
         const auto *lock = form->findChild<OvixSvgButton *>(u"lock"_s);
