@@ -5,17 +5,23 @@
 #include "frame/oVIXGrip.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSizeGrip>
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <QStyleOptionFrame>
+#include <QStyleOptionMenuItem>
+#include <QStyleOptionViewItem>
+#include <QStyledItemDelegate>
 #include <QTabBar>
 
 #include <algorithm>
@@ -45,11 +51,11 @@ QString describe(const QWidget *widget)
         .arg(widget->height());
 }
 
-QList<QWidget *> shownIn(const QWidget *window)
+QList<const QWidget *> shownIn(const QWidget *window)
 {
-    QList<QWidget *> shown;
+    QList<const QWidget *> shown{window};
     const QList<QWidget *> widgets = window->findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
+    for (const QWidget *widget : widgets) {
         if (widget->window() == window && !widget->visibleRegion().isEmpty())
             shown << widget;
     }
@@ -124,6 +130,78 @@ QList<Fit> fitsOf(const QTabBar *tabs)
     return fits;
 }
 
+/// What does not fit on a menu bar has no room at all.
+QList<Fit> fitsOf(const QMenuBar *bar)
+{
+    QList<Fit> fits;
+    const QList<QAction *> actions = bar->actions();
+    for (QAction *action : actions)
+        fits.append({action->text(), lineOf(bar, action->text()), (bar->actionGeometry(action) & bar->rect()).size()});
+    return fits;
+}
+
+/// The toolkit's own answer to what it is about to draw.
+struct OpenedMenu : QMenu
+{
+    using QMenu::initStyleOption;
+};
+
+struct OpenedView : QAbstractItemView
+{
+    using QAbstractItemView::initViewItemOption;
+};
+
+struct OpenedDelegate : QStyledItemDelegate
+{
+    using QStyledItemDelegate::initStyleOption;
+};
+
+QList<Fit> fitsOf(const QMenu *menu)
+{
+    QList<Fit> fits;
+    const QList<QAction *> actions = menu->actions();
+    for (QAction *action : actions) {
+        if (!action->isVisible() || action->isSeparator())
+            continue;
+        QStyleOptionMenuItem option;
+        (menu->*&OpenedMenu::initStyleOption)(&option, action);
+        const QString keys = action->shortcut().toString(QKeySequence::NativeText);
+        const QSize text = option.fontMetrics.size(Qt::TextSingleLine | Qt::TextShowMnemonic, action->text());
+        QSize needed = menu->style()->sizeFromContents(QStyle::CT_MenuItem, &option, text, menu);
+        needed.rwidth() += option.fontMetrics.horizontalAdvance(keys);
+        fits.append({action->text(), needed, (menu->actionGeometry(action) & menu->rect()).size()});
+    }
+    return fits;
+}
+
+/// Rows that are shown by widgets of their own have to be as high as these; tags may be wider than their list.
+QList<Fit> fitsOf(const QAbstractItemView *view)
+{
+    QList<Fit> fits;
+    const auto *delegate = qobject_cast<const QStyledItemDelegate *>(view->itemDelegate());
+    for (int row = 0; delegate && row < view->model()->rowCount(view->rootIndex()); ++row) {
+        const QModelIndex index = view->model()->index(row, 0, view->rootIndex());
+        const QRect place = view->visualRect(index);
+        if (!place.intersects(view->viewport()->rect()))
+            continue;
+        if (const QWidget *widget = view->indexWidget(index)) {
+            fits.append({nameOf(widget), {0, widget->height()}, place.size()});
+            continue;
+        }
+        QStyleOptionViewItem option;
+        (view->*&OpenedView::initViewItemOption)(&option);
+        option.rect = place;
+        (delegate->*&OpenedDelegate::initStyleOption)(&option, index);
+        const int margin = view->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, view) + 1;
+        QRect room = view->style()->subElementRect(QStyle::SE_ItemViewItemText, &option, view);
+        if (view->horizontalScrollBarPolicy() == Qt::ScrollBarAlwaysOff)
+            room.setRight(std::min(room.right(), view->viewport()->rect().right()));
+        fits.append({option.text, option.fontMetrics.size(Qt::TextSingleLine, option.text),
+                     room.adjusted(margin, 0, -margin, 0).size()});
+    }
+    return fits;
+}
+
 QList<Fit> fitsOf(const QWidget *widget)
 {
     if (const auto *label = qobject_cast<const QLabel *>(widget))
@@ -135,6 +213,12 @@ QList<Fit> fitsOf(const QWidget *widget)
         return {fitOf(edit)};
     if (const auto *tabs = qobject_cast<const QTabBar *>(widget))
         return fitsOf(tabs);
+    if (const auto *bar = qobject_cast<const QMenuBar *>(widget))
+        return fitsOf(bar);
+    if (const auto *menu = qobject_cast<const QMenu *>(widget))
+        return fitsOf(menu);
+    if (const auto *view = qobject_cast<const QAbstractItemView *>(widget))
+        return fitsOf(view);
     return {};
 }
 
@@ -187,7 +271,7 @@ bool areStacked(const QWidget *one, const QWidget *other)
 QStringList LayoutFaults::clippedTexts(const QWidget *window)
 {
     QStringList faults;
-    const QList<QWidget *> widgets = shownIn(window);
+    const QList<const QWidget *> widgets = shownIn(window);
     for (const QWidget *widget : widgets) {
         const QList<Fit> fits = fitsOf(widget);
         for (const Fit &fit : fits) {
@@ -210,7 +294,7 @@ QStringList LayoutFaults::clippedTexts(const QWidget *window)
 QStringList LayoutFaults::overlaps(const QWidget *window)
 {
     QStringList faults;
-    const QList<QWidget *> widgets = shownIn(window);
+    const QList<const QWidget *> widgets = shownIn(window);
     for (const QWidget *one : widgets) {
         for (const QWidget *other : widgets) {
             if (one >= other || one->parentWidget() != other->parentWidget())
@@ -226,7 +310,7 @@ QStringList LayoutFaults::overlaps(const QWidget *window)
 QStringList LayoutFaults::blurredPictures(const QWidget *window)
 {
     QStringList faults;
-    const QList<QWidget *> widgets = shownIn(window);
+    const QList<const QWidget *> widgets = shownIn(window);
     for (const QWidget *widget : widgets) {
         const auto *label = qobject_cast<const QLabel *>(widget);
         const QPixmap picture = label ? label->pixmap(Qt::ReturnByValue) : QPixmap();
