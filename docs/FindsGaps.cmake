@@ -2,6 +2,7 @@
 #
 # Leaves out one comment at a time in a small header and sees that the documentation is refused.
 cmake_minimum_required(VERSION 3.22)
+include("${CMAKE_CURRENT_LIST_DIR}/../tests/support/Refusal.cmake")
 
 # planted(<what> <expected message, empty: passes> <text>)
 function(planted what expected text)
@@ -13,15 +14,7 @@ INPUT = \"${WORK}/Planted.h\"
 OUTPUT_DIRECTORY = \"${WORK}\"
 USE_MDFILE_AS_MAINPAGE =
 ")
-    execute_process(COMMAND "${DOXYGEN}" Doxyfile WORKING_DIRECTORY "${WORK}"
-        RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
-    if(expected STREQUAL "" AND NOT result EQUAL 0)
-        message("${output}")
-        message(SEND_ERROR "${what}: refused")
-    elseif(NOT expected STREQUAL "" AND (result EQUAL 0 OR NOT output MATCHES "${expected}"))
-        message("${output}")
-        message(SEND_ERROR "${what}: passed, or refused for another reason than ${expected}")
-    endif()
+    check_answer("${what}" "${expected}" "${DOXYGEN}" Doxyfile)
 endfunction()
 
 planted("a whole header" "" "/// A.\nclass A\n{\npublic:\n    /// B.\n    void b();\n    void c() override;\n};")

@@ -2,6 +2,7 @@
 #
 # Plants one fault at a time in a small library and sees that the check names it.
 cmake_minimum_required(VERSION 3.22)
+include("${CMAKE_CURRENT_LIST_DIR}/../support/Refusal.cmake")
 
 # planted(<what> <expected message, empty: passes> [<file> <text>]...)
 function(planted what expected)
@@ -21,16 +22,8 @@ function(planted what expected)
         file(WRITE "${WORK}/${file}" "${text}\n")
     endwhile()
 
-    execute_process(COMMAND ${CMAKE_COMMAND} "-DLIBRARY=${WORK}/library" "-DTABLE=${WORK}/table.md"
-        "-DPUBLIC_HEADERS=${WORK}/public.txt" "-DBASE_HEADERS=${WORK}/base.txt" -P "${CHECK}"
-        RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
-    if(expected STREQUAL "" AND NOT result EQUAL 0)
-        message("${output}")
-        message(SEND_ERROR "${what}: refused")
-    elseif(NOT expected STREQUAL "" AND (result EQUAL 0 OR NOT output MATCHES "${expected}"))
-        message("${output}")
-        message(SEND_ERROR "${what}: passed, or refused for another reason than ${expected}")
-    endif()
+    check_answer("${what}" "${expected}" ${CMAKE_COMMAND} "-DLIBRARY=${WORK}/library" "-DTABLE=${WORK}/table.md"
+        "-DPUBLIC_HEADERS=${WORK}/public.txt" "-DBASE_HEADERS=${WORK}/base.txt" -P "${CHECK}")
 endfunction()
 
 planted("a sound library" "")
