@@ -1,14 +1,13 @@
 #include "scenes/SceneTags.h"
 
+#include "scenes/DistinctColours.h"
 #include "scenes/Scene.h"
 
 #include <algorithm>
-#include <array>
 
 namespace {
 
-constexpr std::array newTagColours{QColor(116, 211, 252), QColor(249, 199, 26), QColor(227, 155, 214),
-                                   QColor(0, 158, 115), QColor(213, 94, 0)};
+constexpr size_t tagColours = distinctColours.size() - 1; // a tag is not to look like a text
 
 QStringList namesOf(const Scene &scene, bool assigned)
 {
@@ -88,7 +87,7 @@ QString settledName(Scene *scene, const QString &name)
     }
     if (!similar.isEmpty())
         return similar;
-    const QColor colour = newTagColours[size_t(scene->tags.size()) % newTagColours.size()];
+    const QColor colour = distinctColours[size_t(scene->tags.size()) % tagColours];
     scene->tags.append({freeId(*scene), name, colour, false});
     return name;
 }

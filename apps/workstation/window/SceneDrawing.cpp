@@ -1,13 +1,13 @@
 #include "window/SceneDrawing.h"
 
 #include "look/Palette.h"
+#include "scenes/DistinctColours.h"
 
 #include <QHash>
 #include <QPainter>
 #include <QtMath>
 
 #include <algorithm>
-#include <array>
 
 namespace {
 
@@ -21,10 +21,6 @@ constexpr double trailOpacity = 0.6;
 constexpr double densityCell = 2.0; // metres
 constexpr double fullDensity = 2.0; // people a square metre
 
-/// Colours that differ for everyone, also without red and green.
-const std::array kindColours{QColor(116, 211, 252), QColor(249, 199, 26), QColor(227, 155, 214),
-                             QColor(0, 158, 115),   QColor(213, 94, 0),   QColor(219, 219, 219)};
-
 /// A colour for each different text, in the order of their coming.
 class KindColours
 {
@@ -33,7 +29,7 @@ public:
     {
         const qsizetype place = m_places.value(kind, m_places.size());
         m_places.insert(kind, place);
-        return kindColours[size_t(place) % kindColours.size()];
+        return distinctColours[size_t(place) % distinctColours.size()];
     }
 
 private:

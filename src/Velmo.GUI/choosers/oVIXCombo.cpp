@@ -8,6 +8,8 @@
 #include "foundation/SheetOnChange.h"
 #include "foundation/ShownText.h"
 
+#include "VelmoDropData.h"
+
 #include "ui_oVIXCombo.h"
 
 #include <QAccessible>
@@ -16,6 +18,8 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QScreen>
+
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -28,9 +32,14 @@ constexpr int menuBorder = 1;
 constexpr int yesNoCaptionWidth = 16000;
 constexpr int yesNoChoiceWidth = 59;
 
-QString payloadFormat()
+/// Whether it is dragged by the application, readable or not.
+bool holdsPayload(const QMimeData &data)
 {
-    return u"application/x-velmodropdata"_s;
+    static const QString format = [] {
+        const std::unique_ptr<QMimeData> payload(VelmoDropData({}, VelmoDropData::NoType).getMimeData());
+        return payload->formats().constFirst();
+    }();
+    return data.hasFormat(format);
 }
 
 } // namespace
@@ -267,7 +276,7 @@ void oVIXCombo::dragEnterEvent(QDragEnterEvent *event)
 
 void oVIXCombo::dragMoveEvent(QDragMoveEvent *event)
 {
-    if (event->mimeData()->hasFormat(payloadFormat()))
+    if (holdsPayload(*event->mimeData()))
         event->acceptProposedAction();
     else
         event->ignore();
@@ -275,7 +284,7 @@ void oVIXCombo::dragMoveEvent(QDragMoveEvent *event)
 
 void oVIXCombo::dropEvent(QDropEvent *event)
 {
-    if (!event->mimeData()->hasFormat(payloadFormat())) {
+    if (!holdsPayload(*event->mimeData())) {
         event->ignore();
         return;
     }

@@ -156,3 +156,11 @@ void AccessibleWidgets::announceExpanded(QWidget *widget)
     changed.expanded = true;
     announce(widget, changed);
 }
+
+void AccessibleWidgets::announceAlert(QWidget *widget)
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleEvent alert(widget, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}

@@ -23,5 +23,7 @@ template <class Interface> void add(const char *className)
 void announceChecked(QWidget *widget);
 /// The same for what it expands.
 void announceExpanded(QWidget *widget);
+/// Makes assistive tools read the widget out at once.
+void announceAlert(QWidget *widget);
 
 } // namespace AccessibleWidgets

@@ -1,5 +1,6 @@
 #include "messages/VelmoMessageBox.h"
 
+#include "foundation/AccessibleWidgets.h"
 #include "foundation/SheetOnChange.h"
 #include "foundation/VelmoStyle.h"
 #include "messages/MessageRules.h"
@@ -7,7 +8,6 @@
 #include "ui_VelmoMessageWidget.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QAccessible>
 #include <QApplication>
 #include <QSignalBlocker>
 #include <QTimer>
@@ -264,10 +264,8 @@ void VelmoMessageWidget::setOtherOption(QString otheroption)
 void VelmoMessageWidget::showEvent(QShowEvent *event)
 {
     oVIXDialog::showEvent(event);
-    if (event->spontaneous() || !QAccessible::isActive())
-        return;
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    if (!event->spontaneous())
+        AccessibleWidgets::announceAlert(this);
 }
 
 void VelmoMessageWidget::hideEvent(QHideEvent *event)

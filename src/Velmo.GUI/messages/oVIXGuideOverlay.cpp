@@ -303,10 +303,8 @@ void oVIXGuideOverlay::updateStepInfo()
 
 void oVIXGuideOverlay::announceStep()
 {
-    if (!isVisible() || !QAccessible::isActive())
-        return;
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    if (isVisible())
+        AccessibleWidgets::announceAlert(this);
 }
 
 void oVIXGuideOverlay::goToStep(int step)
