@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/Gestures.h"
 #include "support/Picture.h"
 #include "support/TestCase.h"
@@ -27,8 +28,7 @@ namespace {
 
 QString textOf(const QString &path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return QString::fromUtf8(Files::read(path));
 }
 
 /// The file names of the library's public headers, with their paths.

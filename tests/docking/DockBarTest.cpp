@@ -1,5 +1,6 @@
 #include "support/Gestures.h"
 #include "support/TestCase.h"
+#include "support/Told.h"
 
 #include "choosers/QMultiCompleterLineEdit.h"
 #include "docking/OvixThumbnailSizeWidget.h"
@@ -162,13 +163,11 @@ private slots:
     void searches()
     {
         oVIXDockBar bar(nullptr);
-        QString told;
-        connect(&bar, &oVIXDockBar::s_search, this, [&](const QString &text) { told += u'[' + text + u']'; });
-        connect(&bar, &oVIXDockBar::s_clearoptions, this, [&] { told += u"clear"_s; });
+        Told told(&bar);
         bar.setSearch(u"lamp"_s);
         bar.clearSearchText();
         bar.clearSearchText();
-        QCOMPARE(told, u"[lamp][]clear[]clear[]"_s);
+        QCOMPARE(told.taken(), u"s_search lamp, s_search , s_clearoptions, s_search , s_clearoptions, s_search "_s);
     }
 
     void suggests()

@@ -1,6 +1,7 @@
 #include "support/Events.h"
 #include "support/Gestures.h"
 #include "support/TestCase.h"
+#include "support/Told.h"
 
 #include "choosers/QMultiCompleterLineEdit.h"
 #include "docking/oVIXDock.h"
@@ -156,11 +157,7 @@ private slots:
                  u"<font color=\"#ffffff\"> &nbsp;&nbsp;LIBRARY:&nbsp;</font>"
                  "<font color=\"#9c9c9c\"> Props</font>"_s);
 
-        QStringList told;
-        connect(dock, &oVIXDock::s_search, this, [&](const QString &text) { told << u"search:"_s + text; });
-        connect(dock, &oVIXDock::s_clearoptions, this, [&] { told << u"clear"_s; });
-        connect(dock, &oVIXDock::thumbClicked, this, [&](int size) { told << QString::number(size); });
-        connect(dock, &oVIXDock::closeClicked, this, [&] { told << (dock->isHidden() ? u"hidden"_s : u"shown"_s); });
+        Told told(dock);
         dock->changeSearchLabel(u"lamp"_s);
         bar->clearSearchText();
         emit bar->thumbClicked(150);
@@ -172,9 +169,10 @@ private slots:
         QCOMPARE(dock->allowedAreas(), Qt::BottomDockWidgetArea);
         dock->setWidget(nullptr);
         dock->setHideSearchUntilHover(false);
-        connect(dock, &oVIXDock::closeClicked, this, [dock] { delete dock; });
+        connect(dock, &oVIXDock::closeClicked, this, [dock] { QVERIFY(dock->isHidden()); });
         Gestures::click(bar->findChild<OvixSvgButton *>(u"btClose"_s));
-        QCOMPARE(told.join(u' '), u"search:lamp search: clear search: 150 hidden"_s);
+        QCOMPARE(told.taken(),
+                 u"s_search lamp, s_search , s_clearoptions, s_search , thumbClicked 150, closeClicked"_s);
     }
 
     void movesTheWindowItStandsIn()

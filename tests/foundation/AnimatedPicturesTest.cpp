@@ -8,13 +8,11 @@
 #include "foundation/QAnimatedWebp.h"
 
 #include <QElapsedTimer>
-#include <QPointer>
 #include <QSet>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <limits>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -197,24 +195,6 @@ private slots:
         QTimerEvent foreign(123456);
         QCoreApplication::sendEvent(&label, &foreign);
         QCOMPARE(updated.size(), 0);
-    }
-
-    void mayBeDeletedWhileItTells()
-    {
-        QPointer<QAnimatedLabel> label = new QAnimatedLabel;
-        label->setStacksAndSlices(sheetOf(4, 4), 4, 4, 0);
-        label->setSpeed(500);
-        Gestures::show(label);
-        label->play(1);
-        connect(label, &QAnimatedLabel::frameUpdated, this, [&label] { delete label; });
-        QTRY_VERIFY(!label);
-
-        QPointer<QAnimatedWebp> player = new QAnimatedWebp(this);
-        QVERIFY(!player->parent());
-        player->setFileName(stillPicture());
-        player->start();
-        connect(player, &QAnimatedWebp::frameChanged, this, [&player] { delete player; });
-        QTRY_VERIFY(!player);
     }
 
     void showsAStillPictureOnce()

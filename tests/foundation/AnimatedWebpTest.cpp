@@ -1,11 +1,11 @@
 #include "support/Drawings.h"
 #include "support/Events.h"
+#include "support/Files.h"
 #include "support/TestCase.h"
 
 #include "foundation/QAnimatedWebp.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -43,12 +43,6 @@ QList<qint64> frameTimes(QAnimatedWebp &player, int count)
         return {};
     player.stop();
     return times;
-}
-
-QByteArray animationBytes()
-{
-    QFile file(animation);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace
@@ -100,7 +94,7 @@ private slots:
 
     void framesWithoutDelayLeaveTheEventLoopItsTurns()
     {
-        QByteArray bytes = animationBytes();
+        QByteArray bytes = Files::read(animation);
         for (qsizetype frame = 0; (frame = bytes.indexOf("ANMF", frame + 1)) > 0;)
             bytes.replace(frame + 20, 3, QByteArray(3, '\0'));
         const QString file = m_drawings.file(bytes, u".webp"_s);
@@ -131,7 +125,7 @@ private slots:
 
     void stopsQuietlyAtTheFirstBrokenFrame()
     {
-        const QByteArray whole = animationBytes();
+        const QByteArray whole = Files::read(animation);
         QByteArray broken = whole;
         qsizetype frame = -1;
         for (int i = 0; i <= 5; ++i)

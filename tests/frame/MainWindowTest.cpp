@@ -279,17 +279,11 @@ private slots:
         QVERIFY(bar->role() == QAccessible::MenuBar && bar->childCount() == 3 && !bar->child(3));
         const QString showMenu = QAccessibleActionInterface::showMenuAction();
         const QString press = QAccessibleActionInterface::pressAction();
-        const QStringList names{u"Scene"_s, u"Save & close"_s};
-        for (int i = 0; i < 2; ++i) {
-            QAccessibleInterface *menu = bar->child(i);
-            QCOMPARE(menu->text(QAccessible::Name), names[i]);
-            QCOMPARE(menu->actionInterface()->actionNames(), QStringList(i == 0 ? showMenu : press));
-            QVERIFY(menu->parent() == bar && bar->indexOfChild(menu) == i);
-            const QPoint middle = menu->rect().center();
-            QCOMPARE(bar->childAt(middle.x(), middle.y()), menu);
-        }
+        QAccessibleInterface *entry = bar->child(1);
+        QCOMPARE(entry->text(QAccessible::Name), u"Save & close"_s);
+        QCOMPARE(bar->childAt(entry->rect().center().x(), entry->rect().center().y()), entry);
         QSignalSpy triggered(window.menuBar()->actions().at(1), &QAction::triggered);
-        bar->child(1)->actionInterface()->doAction(press);
+        entry->actionInterface()->doAction(press);
         QTRY_COMPARE(triggered.size(), 1);
         bar->child(0)->actionInterface()->doAction(showMenu);
         QVERIFY(scene->isVisible() && bar->child(0)->state().expanded);

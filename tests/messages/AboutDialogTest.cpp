@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/Gestures.h"
 #include "support/Picture.h"
 #include "support/TestCase.h"
@@ -8,7 +9,6 @@
 #include <QDate>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFile>
 #include <QLabel>
 #include <QScopeGuard>
 #include <QTabBar>
@@ -21,13 +21,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-void write(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
 
 QStringList texts(const VelmoAboutDialog &dialog)
 {
@@ -53,8 +46,8 @@ private slots:
         QTemporaryDir folder;
         const QDir help(folder.path() + u"/help"_s);
         QVERIFY(help.mkpath(u"license.html"_s)); // a folder in the place of a file
-        write(help.filePath(u"about_credits.html"_s), "<b>J\xc3\xb6rg</b>");
-        write(help.filePath(u"gcpp.html"_s), "<meta charset=\"iso-8859-1\">J\xf6rg");
+        Files::write(help.filePath(u"about_credits.html"_s), "<b>J\xc3\xb6rg</b>");
+        Files::write(help.filePath(u"gcpp.html"_s), "<meta charset=\"iso-8859-1\">J\xf6rg");
         VelmoAboutDialog dialog(nullptr, folder.path());
         Gestures::show(&dialog);
         QCOMPARE(texts(dialog),
@@ -91,10 +84,9 @@ private slots:
         });
         const QByteArray address = QTest::currentDataTag();
         QTemporaryDir folder;
-        QVERIFY(QDir(folder.path()).mkpath(u"help"_s));
-        write(folder.filePath(u"help/about_credits.html"_s),
-              "<a href=\"" + address + "\">Link</a><img src=\"https://example.org/logo.png\">");
-        write(folder.filePath(u"help/license.html"_s), "Terms");
+        Files::write(folder.filePath(u"help/about_credits.html"_s),
+                     "<a href=\"" + address + "\">Link</a><img src=\"https://example.org/logo.png\">");
+        Files::write(folder.filePath(u"help/license.html"_s), "Terms");
 
         VelmoAboutDialog dialog(nullptr, folder.path());
         Gestures::show(&dialog);

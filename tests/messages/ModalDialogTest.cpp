@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/Gestures.h"
 #include "support/TestCase.h"
 
@@ -137,11 +138,8 @@ private slots:
         LinkLabel(u"None"_s, folder.filePath(u"none"_s), 1, nullptr).open();
         LinkLabel(u"Empty"_s, QString(), 1, nullptr).open();
 #ifdef Q_OS_UNIX
-        QFile script(program);
-        QVERIFY(script.open(QIODevice::WriteOnly));
-        script.write("#!/bin/sh\ntouch \"$0.$#\"\n");
-        script.close();
-        QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+        Files::write(program, "#!/bin/sh\ntouch \"$0.$#\"\n");
+        QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
         LinkLabel(u"Unknown"_s, program, 2, nullptr).open();
         LinkLabel link(u"Program"_s, program, 1, nullptr);
         Gestures::show(&link);

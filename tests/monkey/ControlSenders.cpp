@@ -66,7 +66,11 @@ QList<Senders::Sender> Senders::ofFoundationAndChoosers()
          [](QWidget *host) {
              return placed(new OvixSvgButton(host), {20, 20});
          },
-         {{"clicked()", click()}, {"doubleClicked()", doubleClick()}, {"rightClicked(QPoint)", rightClick}}},
+         {{"clicked()", click()},
+          {"clicked()", pressKey()},
+          {"clicked()", pressByTools()},
+          {"doubleClicked()", doubleClick()},
+          {"rightClicked(QPoint)", rightClick}}},
         {"QAnimatedLabel",
          [](QWidget *host) {
              auto *label = placed(new QAnimatedLabel(host), {10, 10});
@@ -86,12 +90,17 @@ QList<Senders::Sender> Senders::ofFoundationAndChoosers()
          [](QWidget *host) {
              return placed(new QClickableLabel(host), {40, 20});
          },
-         {{"clicked()", click()}, {"doubleClicked()", doubleClick()}, {"clickReleased()", click()}}},
+         {{"clicked()", click()},
+          {"clicked()", pressKey()},
+          {"clicked()", pressByTools()},
+          {"clicked()", with<QClickableLabel>([](QClickableLabel *label) { label->click(); })},
+          {"doubleClicked()", doubleClick()},
+          {"clickReleased()", click()}}},
         {"QClickableWidget",
          [](QWidget *host) {
              return placed(new QClickableWidget(host), {40, 20});
          },
-         {{"clicked()", click()}}},
+         {{"clicked()", click()}, {"clicked()", pressKey()}, {"clicked()", pressByTools()}}},
         {"oVIXButton",
          [](QWidget *host) {
              return placed(new oVIXButton(u"Save"_s, host), {60, 20});

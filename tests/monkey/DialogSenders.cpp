@@ -36,11 +36,11 @@ void clickAddButton(QWidget *table)
 }
 
 /// The name of a scene is typed where it stands.
-void rename(QWidget *row)
+void rename(QWidget *row, Qt::Key last = Qt::Key_Return)
 {
     Gestures::focus(row);
     Gestures::doubleClick(partOf(row, u"nameLabel"_s));
-    type(partOf(row, u"nameEdit"_s), u"Square"_s);
+    type(partOf(row, u"nameEdit"_s), u"Square"_s, last);
 }
 
 VelmoYesNoWidget *createBar(QWidget *host)
@@ -99,8 +99,18 @@ QList<Senders::Sender> Senders::ofMessagesAndBrowser()
     const Act select = with<QWidget>(clickSecondRow);
     const Act add = with<QWidget>(clickAddButton);
     const Act renameFirst = with<QWidget>([](QWidget *table) { rename(rowOf(table, 0)); });
+    const Act addByRow = with<VelmoSceneItem>([](VelmoSceneItem *row) {
+        row->setEditingEnabled(false);
+        Gestures::doubleClick(partOf(row, u"versionLabel"_s));
+    });
+    const Act finishRenaming = with<VelmoSceneItem>([](VelmoSceneItem *row) {
+        rename(row, Qt::Key_2);
+        row->finishEditing();
+    });
     return {
-        {"VelmoYesNoWidget", createBar, {{"accept()", click(u"okButton"_s)}, {"reject()", click(u"cancelButton"_s)}}},
+        {"VelmoYesNoWidget",
+         createBar,
+         {{"accept()", click(u"okButton"_s)}, {"reject()", pressByTools(u"cancelButton"_s)}}},
         {"oVIXGuideOverlay",
          [](QWidget *host) { return new oVIXGuideOverlay(host); },
          {{"sgGuideFinished()", click(u"skipButton"_s)},
@@ -108,7 +118,10 @@ QList<Senders::Sender> Senders::ofMessagesAndBrowser()
            with<oVIXGuideOverlay>([](oVIXGuideOverlay *tour) { tour->revealStep(); })}}},
         {"VelmoSceneItem",
          createScene,
-         {{"addChanged()", click(u"addButton"_s)}, {"renameRequested(QString,QString)", with<QWidget>(rename)}}},
+         {{"addChanged()", click(u"addButton"_s)},
+          {"addChanged()", addByRow},
+          {"renameRequested(QString,QString)", with<QWidget>([](QWidget *row) { rename(row); })},
+          {"renameRequested(QString,QString)", finishRenaming}}},
         {"VelmoScenesTable",
          createScenes,
          {{"selectionChanged()", select, Deletion::Later},

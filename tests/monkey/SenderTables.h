@@ -1,6 +1,7 @@
 #pragma once
 
 #include "monkey/Senders.h"
+#include "support/Assistive.h"
 #include "support/Gestures.h"
 
 #include "VelmoDropData.h"
@@ -51,6 +52,12 @@ inline Act doubleClick(const QString &part = {})
     return [=](QObject *sender) { Gestures::doubleClick(partOf(sender, part)); };
 }
 
+/// Asks for it as assistive tools do.
+inline Act pressByTools(const QString &part = {})
+{
+    return [=](QObject *sender) { Assistive::act(partOf(sender, part)); };
+}
+
 /// With the left button, held at the end.
 inline void dragBy(QWidget *widget, QPoint delta)
 {
@@ -88,6 +95,15 @@ inline void type(QWidget *widget, const QString &text, Qt::Key last = Qt::Key_Re
         QTest::keyPress(typed.data(), last);
     if (typed)
         QTest::keyRelease(typed.data(), last);
+}
+
+/// A part that could not have the keyboard gets it.
+inline Act pressKey(const QString &part = {}, Qt::Key key = Qt::Key_Space)
+{
+    return [=](QObject *sender) {
+        partOf(sender, part)->setFocusPolicy(Qt::StrongFocus);
+        type(partOf(sender, part), {}, key);
+    };
 }
 
 /// Drags a tag of the application over @p widget and drops it there.

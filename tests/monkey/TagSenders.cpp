@@ -10,7 +10,6 @@
 #include "oVIXTagListWidget.h"
 
 #include <QApplication>
-#include <QMouseEvent>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -46,13 +45,9 @@ void addTag(oVIXDragTag *tag)
 
 void startSmallDrag(oVIXTagListWidget *list)
 {
-    const QPointer<QWidget> viewport(list->viewport());
-    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseMove}) {
-        const QPoint point(type == QEvent::MouseMove ? 11 : 10, 10);
-        QMouseEvent event(type, point, viewport->mapToGlobal(point),
-                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(viewport, &event);
-    }
+    QWidget *viewport = list->viewport();
+    Gestures::send(viewport, QEvent::MouseButtonPress, {10, 10});
+    Gestures::send(viewport, QEvent::MouseMove, {11, 10});
 }
 
 oVIXDragDropTags *createEditor(QWidget *host)

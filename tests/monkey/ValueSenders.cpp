@@ -60,7 +60,7 @@ oVIXSliderWidget *createSlider(QWidget *host)
     auto *slider = placed(new oVIXSliderWidget(host), {400, 20});
     slider->changeMode(oVIXSliderWidget::DoubleRange);
     slider->setLimitsAndValuesMin(0, 100, 20, 1);
-    slider->setLimitsAndValues(0, 100, 80, 1);
+    slider->setLimitsAndValues(0, 100, 80.25, 1);
     return slider;
 }
 
@@ -163,6 +163,10 @@ QList<Senders::Sender> Senders::ofValues()
         if (set)
             set->setValueMin(30);
     });
+    const Act turn = with<QWidget>([](QWidget *slider) { Gestures::turnWheel(partOf(slider, u"spinMaxDouble"_s)); });
+    const Act round = with<oVIXSliderWidget>([](oVIXSliderWidget *slider) { slider->setDecimals(0); });
+    const Act clickArrowItself =
+        with<QWidget>([](QWidget *slider) { slider->findChild<OvixSvgButton *>(u"spinMaxDoubleArrowUp"_s)->click(); });
     const Act clickState =
         with<QWidget>([](QWidget *toggle) { Gestures::click(toggle->findChildren<OvixSvgButton *>().constLast()); });
     return {
@@ -184,7 +188,11 @@ QList<Senders::Sender> Senders::ofValues()
           {"valueChanged(double)", typeNumber(u"spinMaxDouble"_s), Deletion::Later},
           {"valueMinChanged(double)", typeNumber(u"spinMinDouble"_s), Deletion::Later},
           {"valueFinished()", typeNumber(u"spinMaxDouble"_s), Deletion::Later},
-          {"valueFinished()", clickArrow(u"spinMaxDoubleArrowDown"_s), Deletion::Later}}},
+          {"valueFinished()", clickArrow(u"spinMaxDoubleArrowDown"_s), Deletion::Later},
+          {"valueFinished()", clickArrowItself},
+          {"valueFinished()", pressKey(u"spinMaxDouble"_s, Qt::Key_Up)},
+          {"valueFinished()", turn},
+          {"valueChanged(double)", round}}},
         {"OvixMovableLabel",
          createMarker,
          {{"moved()", dragBar}, {"released()", dragBar}, {"editingStarted()", edit()}, {"editingFinished()", edit()}}},

@@ -1,6 +1,6 @@
 #include "support/Drawings.h"
 
-#include <QFile>
+#include "support/Files.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,9 +17,7 @@ QString Drawings::filled(const QByteArray &colour)
 QString Drawings::file(const QByteArray &content, const QString &ending)
 {
     const QString name = newName(ending);
-    QFile file(name);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("cannot write %s", qPrintable(name));
+    Files::write(name, content);
     return name;
 }
 

@@ -2,7 +2,9 @@
 
 #include <QCursor>
 #include <QGuiApplication>
+#include <QMouseEvent>
 #include <QTest>
+#include <QWheelEvent>
 #include <QWidget>
 #include <QWindow>
 
@@ -80,4 +82,20 @@ void Gestures::doubleClick(QWidget *widget, Qt::MouseButton button)
 {
     hover(widget);
     QTest::mouseDClick(windowOf(widget), button, {}, middleInWindow(widget));
+}
+
+void Gestures::turnWheel(QWidget *widget, int delta)
+{
+    const QPointF point = widget->rect().center();
+    QWheelEvent event(point, widget->mapToGlobal(point), {}, {0, delta}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(widget, &event);
+}
+
+bool Gestures::send(QWidget *widget, QEvent::Type type, QPoint point, Qt::MouseButton button)
+{
+    QMouseEvent event(type, point, widget->mapToGlobal(point), type == QEvent::MouseMove ? Qt::NoButton : button,
+                      type == QEvent::MouseButtonRelease ? Qt::NoButton : button, Qt::NoModifier);
+    event.ignore();
+    QCoreApplication::sendEvent(widget, &event);
+    return event.isAccepted();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QEvent>
 #include <QPoint>
 #include <Qt>
 
@@ -28,5 +29,11 @@ void release(QWidget *widget, Qt::MouseButton button = Qt::LeftButton);
 void click(QWidget *widget, Qt::MouseButton button = Qt::LeftButton);
 /// The whole sequence of a double click: press, release, double click, release.
 void doubleClick(QWidget *widget, Qt::MouseButton button = Qt::LeftButton);
+
+/// By so many eighths of a degree, over the middle of the widget.
+void turnWheel(QWidget *widget, int delta = 120);
+
+/// One mouse event sent straight to the widget; @p button is the one that a move holds. Says whether it is taken.
+bool send(QWidget *widget, QEvent::Type type, QPoint point, Qt::MouseButton button = Qt::LeftButton);
 
 } // namespace Gestures

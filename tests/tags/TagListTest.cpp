@@ -43,10 +43,7 @@ struct Shown : QWidget
 
     void send(QEvent::Type type, QPoint point, Qt::MouseButton button = Qt::LeftButton) const
     {
-        QMouseEvent event(type, point, list->viewport()->mapToGlobal(point),
-                          type == QEvent::MouseMove ? Qt::NoButton : button,
-                          type == QEvent::MouseButtonRelease ? Qt::NoButton : button, Qt::NoModifier);
-        QCoreApplication::sendEvent(list->viewport(), &event);
+        Gestures::send(list->viewport(), type, point, button);
     }
     int dragsAfter(QPoint press, QPoint move)
     {
@@ -119,8 +116,6 @@ private slots:
         shown.send(QEvent::MouseMove, {100 + distance - 1, 10}); // still armed
         shown.send(QEvent::MouseMove, {101, 10});
         QCOMPARE(shown.drags, 1);
-        connect(shown.list, &oVIXTagListWidget::startDragSignal, this, [&shown] { delete shown.list; });
-        QCOMPARE(shown.dragsAfter({100, 10}, {101, 10}), 1);
     }
 
     void tellsOfThePressedTagOnRelease_data()

@@ -1,9 +1,9 @@
+#include "support/Files.h"
 #include "support/TestCase.h"
 
 #include "look/Wording.h"
 
 #include <QDirIterator>
-#include <QFile>
 #include <QRegularExpression>
 #include <QTest>
 #include <QXmlStreamReader>
@@ -11,12 +11,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
 
 /// A text that no user should read. Sentences about messages and tool tips would have to be put differently.
 bool isKey(const QString &text)
@@ -38,7 +32,7 @@ QList<Text> textsOf(const QFileInfo &file)
     static const QRegularExpression call(u"(?:(\\w+)::)?\\btr\\(\\s*\"([^\"]*)\"|"
                                          "\\btranslate\\(\\s*\"([^\"]*)\",\\s*\"([^\"]*)\""_s);
     static const QRegularExpression formText(u"<string>([^<]*)</string>"_s);
-    const QString content = contentOf(file.filePath());
+    const QString content = QString::fromUtf8(Files::read(file.filePath()));
     QList<Text> texts;
     if (file.suffix() == "ui"_L1) {
         const QString context = content.section(u"<class>"_s, 1).section(u"</class>"_s, 0, 0);
@@ -46,7 +40,7 @@ QList<Text> textsOf(const QFileInfo &file)
             texts.append({context, found.next().captured(1)});
         return texts;
     }
-    const QString header = contentOf(file.path() + u'/' + file.completeBaseName() + u".h"_s);
+    const QString header = QString::fromUtf8(Files::read(file.path() + u'/' + file.completeBaseName() + u".h"_s));
     const QRegularExpressionMatch named = declared.match(header);
     const QString ownContext = named.hasMatch() ? named.captured(1) : file.completeBaseName();
     for (auto calls = call.globalMatch(content); calls.hasNext();) {
@@ -89,7 +83,7 @@ private slots:
 
     void everyTranslationIsFinished()
     {
-        QXmlStreamReader xml(contentOf(u"" VELMO_WORDING ""_s));
+        QXmlStreamReader xml(Files::read(u"" VELMO_WORDING ""_s));
         int finished = 0;
         while (!xml.atEnd()) {
             if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() != "translation"_L1)
