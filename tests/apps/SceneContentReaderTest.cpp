@@ -1,8 +1,8 @@
+#include "support/Files.h"
 #include "support/TestCase.h"
 
 #include "scenes/SceneContentReader.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -82,10 +82,7 @@ private:
     bool read(const QByteArray &content, Scene *scene, const std::function<void(int)> &onPercent = {})
     {
         const QString path = m_folder.filePath(u"Hall 1.vscene"_s);
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            return false;
-        file.close();
+        Files::write(path, content);
         SceneContentReader reader;
         reader.onPercent = onPercent;
         int asked = 0;

@@ -1,3 +1,4 @@
+#include "support/Files.h"
 #include "support/TestCase.h"
 
 #include "VelmoSceneMetadataParser.h"
@@ -7,7 +8,6 @@
 #include "scenes/SceneTags.h"
 #include "scenes/ShippedProjects.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -25,10 +25,8 @@ private slots:
         QVERIFY(!projects.isEmpty());
         for (const ProjectFolder &project : projects) {
             for (const SceneFile &scene : project.scenes()) {
-                QFile file(scene.path);
-                QVERIFY(file.open(QIODevice::ReadOnly));
                 // The others are there to be refused.
-                if (const QByteArray document = file.readAll(); document.contains("</VelmoSerializer>"))
+                if (const QByteArray document = Files::read(scene.path); document.contains("</VelmoSerializer>"))
                     QTest::newRow(qPrintable(scene.name)) << document;
             }
         }
@@ -171,12 +169,10 @@ private:
 
     Scene read(const QByteArray &document) const
     {
-        QFile file(path());
+        Files::write(path(), document);
         Scene scene;
         SceneContentReader reader;
-        const bool isWritten =
-            file.open(QIODevice::WriteOnly) && file.write(document) == document.size() && file.flush();
-        if (!isWritten || !reader.read(path(), &scene))
+        if (!reader.read(path(), &scene))
             scene.name = reader.problem(); // no test's
         return scene;
     }

@@ -7,7 +7,6 @@
 
 #include <QSignalSpy>
 #include <QTest>
-#include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -61,14 +60,11 @@ private slots:
         QTest::mouseClick(&view, Qt::LeftButton, {}, ground);
         QCOMPARE(picked.takeLast().first().toString(), QString());
 
-        const QPointF middle(200, 200);
-        QWheelEvent turn(middle, view.mapToGlobal(middle), {}, {0, 120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(&view, &turn);
+        Gestures::turnWheel(&view);
         QVERIFY(hasPointer(VelmoCursor::Zoom));
 
         QTest::mousePress(&view, Qt::LeftButton, {}, person);
-        QMouseEvent move(QEvent::MouseMove, ground, view.mapToGlobal(ground), Qt::NoButton, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(&view, &move);
+        Gestures::send(&view, QEvent::MouseMove, ground);
         QVERIFY(hasPointer(VelmoCursor::ClosedHand));
         QTest::mouseRelease(&view, Qt::LeftButton, {}, ground);
         QVERIFY(hasPointer(VelmoCursor::Pick)); // the person has come along

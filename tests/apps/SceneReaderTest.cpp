@@ -1,9 +1,9 @@
+#include "support/Files.h"
 #include "support/TestCase.h"
 
 #include "scenes/SceneReader.h"
 
 #include <QDir>
-#include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -107,9 +107,7 @@ private:
     SceneFile write(const QString &name, const QByteArray &content) const
     {
         const SceneFile scene{name, QDir(m_folder.path()).filePath(name + SceneFile::ending())};
-        QFile file(scene.path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            qWarning("the test cannot write its files");
+        Files::write(scene.path, content);
         return scene;
     }
     QList<SceneFile> writeMany(const QString &prefix, int count) const

@@ -1,5 +1,6 @@
 #include "desktop/Journey.h"
 #include "desktop/RealInput.h"
+#include "support/Files.h"
 
 #include "OvixMovableLabel.h"
 #include "OvixSvgButton.h"
@@ -12,7 +13,6 @@
 #include "window/SceneView.h"
 #include "window/WorkstationWindow.h"
 
-#include <QFile>
 #include <QLabel>
 #include <QTest>
 
@@ -66,9 +66,7 @@ private slots:
 
         chooseFromMenu(u"Scene"_s, u"Save"_s);
         QTRY_VERIFY(!window()->isWindowModified());
-        QFile file(scenePath(u"Stadium Egress"_s, u"Steward briefing"_s));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray content = file.readAll();
+        const QByteArray content = Files::read(scenePath(u"Stadium Egress"_s, u"Steward briefing"_s));
         QVERIFY(content.contains("bakestatus=\"Baked\""));
         QVERIFY(content.contains(u"<crop first=\"%1\" last=\"%2\"/>"_s.arg(first).arg(last).toLatin1()));
         chooseFromMenu(u"Scene"_s, u"Back to projects"_s);

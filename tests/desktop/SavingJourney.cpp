@@ -1,5 +1,6 @@
 #include "desktop/Journey.h"
 #include "desktop/RealInput.h"
+#include "support/Files.h"
 
 #include "OvixSvgButton.h"
 #include "VelmoMessageBox.h"
@@ -14,7 +15,6 @@
 #include "window/ScenePage.h"
 #include "window/WorkstationWindow.h"
 
-#include <QFile>
 #include <QLabel>
 #include <QMenuBar>
 #include <QSpinBox>
@@ -109,11 +109,7 @@ private:
 
     ScenePage *page() const { return window()->scenePage(); }
     const Bake &bake() const { return page()->bake(); }
-    QByteArray contentOf(const QString &scene) const
-    {
-        QFile file(scenePath(project, scene));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray contentOf(const QString &scene) const { return Files::read(scenePath(project, scene)); }
 };
 
 VELMO_TEST_MAIN(SavingJourney)

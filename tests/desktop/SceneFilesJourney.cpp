@@ -1,5 +1,6 @@
 #include "desktop/Journey.h"
 #include "desktop/RealInput.h"
+#include "support/Files.h"
 
 #include "OvixSvgButton.h"
 #include "VelmoMessageBox.h"
@@ -54,6 +55,7 @@ private slots:
     void renamesInABox()
     {
         onceOpen<VelmoMessageWidget>([this](VelmoMessageWidget *box) {
+            QCOMPARE(box->geometry().center(), window()->geometry().center());
             QVERIFY(box->findChild<QLineEdit *>(u"lnEdit"_s)->hasFocus());
             RealInput::key(u"ctrl+a"_s);
             RealInput::type(u"Evening market"_s);
@@ -123,11 +125,7 @@ private:
 
     VelmoScenesTable *table() const { return window()->startScreen()->findChild<VelmoScenesTable *>(); }
     bool exists(const QString &scene) const { return QFile::exists(scenePath(project, scene)); }
-    QByteArray contentOf(const QString &scene) const
-    {
-        QFile file(scenePath(project, scene));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray contentOf(const QString &scene) const { return Files::read(scenePath(project, scene)); }
 };
 
 VELMO_TEST_MAIN(SceneFilesJourney)

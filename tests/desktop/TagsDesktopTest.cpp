@@ -36,19 +36,6 @@ private slots:
         TestCase::cleanup();
     }
 
-    void aTagIsDraggedToTheOtherPane()
-    {
-        QSignalSpy moved(m_editor, &oVIXDragDropTags::genericTagChanged);
-        RealInput::drag(placeOf(m_editor, u"left"_s, 1), placeOf(m_editor, u"right"_s, 1));
-        QTRY_COMPARE(moved, QList<QVariantList>{{1}});
-        QCOMPARE(stateOf(m_editor), u"bus|Car Lorry Tram"_s);
-        RealInput::drag(placeOf(m_editor, u"right"_s, 0), placeOf(m_editor, u"left"_s, 5)); // below the rows
-        QTRY_COMPARE(moved, (QList<QVariantList>{{1}, {2}}));
-        QCOMPARE(stateOf(m_editor), u"bus Car|Lorry Tram"_s);
-        RealInput::doubleClick(placeOf(m_editor, u"left"_s, 0));
-        QTRY_COMPARE(stateOf(m_editor), u"Car|bus Lorry Tram"_s);
-    }
-
     void equalTagsGoTogether()
     {
         m_editor->addLeftItems({u"a"_s, u"A"_s, u"a"_s}, BUTTON_NONE);
@@ -75,18 +62,6 @@ private slots:
         m_editor->setDropType(VelmoDropData::Tags); // the pointer still drags after all that
         RealInput::drag(placeOf(m_editor, u"left"_s, 0), placeOf(m_editor, u"right"_s, 1));
         QTRY_COMPARE(moved.size(), 1);
-    }
-
-    void itsButtonAndTheAddTagAreUsed()
-    {
-        m_editor->addRightItem(u"New"_s, BUTTON_ADD);
-        QTest::qWait(50);
-        RealInput::click(placeOf(m_editor, u"left"_s, 1, 10));
-        QTRY_COMPARE(stateOf(m_editor), u"bus|Car Lorry Tram New"_s);
-        RealInput::click(placeOf(m_editor, u"right"_s, 3, 10));
-        RealInput::type(u"taxi,red"_s);
-        RealInput::key(u"Return"_s);
-        QTRY_COMPARE(stateOf(m_editor), u"bus|Car Lorry taxi.red Tram New"_s);
     }
 
 private:

@@ -1,39 +1,26 @@
+#include "apps/WindowTest.h"
 #include "desktop/RealInput.h"
-#include "support/TestCase.h"
 
 #include "OvixSvgButton.h"
-#include "start/StartScreen.h"
 #include "window/WorkstationWindow.h"
 
 #include <QMenuBar>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
-class WindowFrameDesktopTest : public TestCase
+class WindowFrameDesktopTest : public WindowTest
 {
     Q_OBJECT
 
-private slots:
-    void init()
-    {
-        TestCase::init();
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_window = std::make_unique<WorkstationWindow>(m_folder->path());
-        RealInput::show(m_window.get(), place);
-    }
-    void cleanup()
-    {
-        m_window.reset();
-        m_folder.reset();
-        TestCase::cleanup();
-    }
+public:
+    WindowFrameDesktopTest() : WindowTest({}) { }
 
+private slots:
     void movesByItsTitle()
     {
         RealInput::drag(title(), title() + QPoint(57, 34));
-        QTRY_COMPARE(m_window->geometry(), place.translated(57, 34));
+        QTRY_COMPARE(window()->geometry(), place.translated(57, 34));
     }
 
     void resizesFromEveryEdgeAndCorner_data()
@@ -57,43 +44,42 @@ private slots:
         QFETCH(QPoint, handle);
         QFETCH(QMargins, grows);
         RealInput::drag(handle, handle + QPoint(40, 28));
-        QTRY_COMPARE(m_window->geometry(), place + grows);
+        QTRY_COMPARE(window()->geometry(), place + grows);
     }
 
     void itsButtonsAndADoubleClickDoWhatTheySay()
     {
         RealInput::doubleClick(title());
-        QTRY_VERIFY(m_window->isMaximized());
-        QTRY_COMPARE(m_window->geometry(), m_window->screen()->availableGeometry());
+        QTRY_VERIFY(window()->isMaximized());
+        QTRY_COMPARE(window()->geometry(), window()->screen()->availableGeometry());
         QCOMPARE(button(u"btMax"_s)->firstFilename(), u":/Windows/Restore"_s);
         RealInput::drag(QPoint(1, 500), QPoint(90, 500)); // no grip works meanwhile
-        QTRY_COMPARE(m_window->geometry(), m_window->screen()->availableGeometry());
+        QTRY_COMPARE(window()->geometry(), window()->screen()->availableGeometry());
         RealInput::click(middleOf(u"btMax"_s));
-        QTRY_COMPARE(m_window->geometry(), place);
-        QVERIFY(!m_window->isMaximized());
+        QTRY_COMPARE(window()->geometry(), place);
+        QVERIFY(!window()->isMaximized());
 
         RealInput::click(middleOf(u"btMin"_s));
-        QTRY_VERIFY(m_window->isMinimized());
-        m_window->showNormal();
-        QTRY_COMPARE(m_window->geometry(), place);
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QTRY_VERIFY(window()->isMinimized());
+        window()->showNormal();
+        QTRY_COMPARE(window()->geometry(), place);
+        QVERIFY(QTest::qWaitForWindowActive(window()));
 
         RealInput::moveTo(title()); // to where the window is again
-        QTRY_VERIFY(m_window->menuBar()->underMouse());
+        QTRY_VERIFY(window()->menuBar()->underMouse());
         RealInput::click(middleOf(u"btClose"_s));
-        QTRY_VERIFY(!m_window->isVisible());
+        QTRY_VERIFY(!window()->isVisible());
     }
 
 private:
     static constexpr QRect place{180, 100, 1240, 760};
 
-    /// A place of the menu bar without a menu.
-    QPoint title() const { return m_window->menuBar()->mapToGlobal(QPoint(300, 15)); }
-    OvixSvgButton *button(const QString &name) const { return m_window->menuBar()->findChild<OvixSvgButton *>(name); }
-    QPoint middleOf(const QString &name) const { return button(name)->mapToGlobal(button(name)->rect().center()); }
+    void show(QWidget *window) const override { RealInput::show(window, place); }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<WorkstationWindow> m_window;
+    /// A place of the menu bar without a menu.
+    QPoint title() const { return window()->menuBar()->mapToGlobal(QPoint(300, 15)); }
+    OvixSvgButton *button(const QString &name) const { return window()->menuBar()->findChild<OvixSvgButton *>(name); }
+    QPoint middleOf(const QString &name) const { return button(name)->mapToGlobal(button(name)->rect().center()); }
 };
 
 VELMO_TEST_MAIN(WindowFrameDesktopTest)
