@@ -1,5 +1,6 @@
 // Scene files that only a POSIX system has, and reading errors, which only there can be called for.
 
+#include "support/Files.h"
 #include "support/TestCase.h"
 
 #include "VelmoSceneMetadataParser.h"
@@ -57,7 +58,8 @@ private slots:
         QCOMPARE(mkfifo(qPrintable(path(u"pipe"_s)), 0600), 0);
         QVERIFY(QFile::link(m_folder.path(), path(u"folder"_s)));
         QVERIFY(QFile::link(path(u"gone"_s), path(u"link"_s)));
-        QVERIFY(write(u"locked"_s) && QFile::setPermissions(path(u"locked"_s), {}));
+        write(u"locked"_s);
+        QVERIFY(QFile::setPermissions(path(u"locked"_s), {}));
         QStringList files{path(u"pipe"_s), u"/dev/zero"_s, path(u"folder"_s)};
         if (geteuid() != 0)
             files << path(u"locked"_s);
@@ -69,7 +71,7 @@ private slots:
     // A file that breaks off is a malformed one; only an error behind a whole scene is told.
     void tellsAReadingErrorBehindTheScene()
     {
-        QVERIFY(write(u"%1.vscene"_s));
+        write(u"%1.vscene"_s);
         const QString file = path(u"%1.vscene"_s);
         QCOMPARE(warningOf(file, 0), QString());
         QCOMPARE(warningOf(file, 60), QString());
@@ -83,11 +85,7 @@ private:
 
     QString path(const QString &name) const { return m_folder.filePath(name); }
 
-    bool write(const QString &name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::WriteOnly) && file.write(document) == documentSize;
-    }
+    void write(const QString &name) const { Files::write(path(name), document); }
 
     // Parses a file that cannot be read to its end; gives title and text of the warning, empty without one.
     QString warningOf(const QString &path, size_t readable = unlimited)

@@ -51,14 +51,6 @@ inline QStringList columnsOf(const QLayout *layout)
     return columns;
 }
 
-inline QByteArrayList methodsOf(const QObject &object)
-{
-    QByteArrayList methods;
-    for (int i = object.metaObject()->methodOffset(); i < object.metaObject()->methodCount(); ++i)
-        methods << object.metaObject()->method(i).methodSignature();
-    return methods;
-}
-
 /// The words of the tool tip that a resting pointer brings up.
 inline QString toolTipOver(QWidget *widget)
 {

@@ -9,7 +9,6 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QFrame>
 #include <QLabel>
 #include <QLayout>
 #include <QTest>
@@ -60,22 +59,13 @@ private slots:
     void isBuiltAsDesigned()
     {
         const VelmoCurtainWidget curtain;
-        QCOMPARE(curtain.size(), QSize(431, 30));
-        QCOMPARE(curtain.sizePolicy(), QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum));
-        QCOMPARE(curtain.getTitle(), u"Title"_s);
-        QCOMPARE(curtain.getSubtitle(), u"Subtitle"_s);
-        QCOMPARE(arrowOf(curtain)->maximumHeight(), 16);
-        QCOMPARE(part(curtain, "widget")->layout()->contentsMargins(), QMargins(0, 0, 2, 0));
         QCOMPARE(part(curtain, "curtainTitle")->styleSheet(),
                  u"QLabel {\tfont-size:11px;\tcolor:rgb(219,219,219);}QLabel:disabled {\tcolor:rgb(219,219,219);}"_s);
         QCOMPARE(part(curtain, "curtainSubtitle")->styleSheet(),
                  u"QLabel {\tfont-size:11px;\tfont:italic;\tcolor:rgb(156,156,156);}"
                  "QLabel:disabled {\tcolor:rgb(156,156,156);}"_s);
-        const auto *line = part<QFrame>(curtain, "curtainLine");
-        QCOMPARE(line->frameStyle(), int(QFrame::HLine) | int(QFrame::Plain));
-        QCOMPARE(line->styleSheet(), u"#curtainLine {\tbackground:transparent;\tcolor:rgb(39,39,39);}"_s);
-        QCOMPARE(QPair(line->minimumHeight(), line->maximumHeight()), QPair(3, 3));
-        QCOMPARE(part(curtain, "curtainLineWidget")->layout()->contentsMargins(), QMargins(6, 4, 0, 0));
+        QCOMPARE(part(curtain, "curtainLine")->styleSheet(),
+                 u"#curtainLine {\tbackground:transparent;\tcolor:rgb(39,39,39);}"_s);
     }
 
     void collapsesAndExpands()

@@ -56,31 +56,19 @@ private slots:
     void isBuiltAsDesigned()
     {
         VelmoProjectsTable table;
-        QCOMPARE(table.size(), QSize(690, 482));
         QCOMPARE(table.styleSheet(),
                  u"#backgroundWidget {\tborder-radius:4px;\tbackground-color:rgb(59,59,59);}QListWidget { "
                  "background-color:transparent; }QListWidget::item { selection-background-color:transparent; }"_s);
         QCOMPARE(listOf(table)->verticalScrollBar()->styleSheet(),
                  listOf(VelmoScenesTable())->verticalScrollBar()->styleSheet());
-        QCOMPARE(listOf(table)->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
-        QCOMPARE(listOf(table)->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
         const QLayout *header = part(&table, "labelsWidget")->layout();
-        QCOMPARE(header->contentsMargins(), QMargins(8, 0, 6, 0));
         QCOMPARE(columnsOf(header),
                  QStringList(
                      {u"nameLabel, 0-, Project name, left"_s, u"lastModifiedLabel, 160-160, Last modified, left"_s}));
-        QCOMPARE(methodsOf(table).join(' '), "selectionChanged() listSelectionChanged()");
-
         const VelmoProjectItem row(nullptr);
-        QCOMPARE(row.size(), QSize(609, 22));
-        QCOMPARE(row.minimumSize(), QSize(0, 22));
-        QCOMPARE(row.maximumSize(), QSize(QWIDGETSIZE_MAX, 22));
         QCOMPARE(row.styleSheet(),
                  u"QLabel {\n\tbackground-color:transparent;\n}\n\n"
                  "QLineEdit {\n\tbackground-color:transparent;\n}"_s);
-        QCOMPARE(part<QLayout>(&row, "horizontalLayout")->contentsMargins(), QMargins(10, 0, 0, 0));
-        QCOMPARE(part<QLabel>(&row, "lastModifiedLabel")->text(), u"LAST MODIFIED"_s);
-
         table.addProject(pathOf(0), {});
         QCOMPARE(listOf(table)->item(0)->sizeHint(), QSize(0, 22));
         QCOMPARE(projectAt(table, 0)->minimumHeight(), 16);
