@@ -29,7 +29,8 @@ public:
     SceneKeepingTest()
         : WindowTest({{u"Gate"_s, {}},
                       {u"Hall"_s,
-                       "<timeline frames=\"12\" fps=\"100\"/>\n<tags><tag id=\"1\" name=\"vip\"/></tags>\n"
+                       "<scenemetadata bakestatus=\"Not baked\"/>\n<timeline frames=\"12\" fps=\"100\"/>\n<tags><tag "
+                       "id=\"1\" name=\"vip\"/></tags>\n"
                        "<actors><actor type=\"adult\"/><actor type=\"child\"/></actors>\n"}})
     { }
 

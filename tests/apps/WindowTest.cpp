@@ -75,5 +75,6 @@ QString WindowTest::path(const QString &scene) const
 
 void WindowTest::write(const QString &scene, const QByteArray &content) const
 {
-    Files::write(path(scene), "<VelmoSerializer>\n<scenemetadata/>\n" + content + "</VelmoSerializer>\n");
+    const QByteArray facts = content.contains("<scenemetadata") ? "" : "<scenemetadata/>\n";
+    Files::write(path(scene), "<VelmoSerializer>\n" + facts + content + "</VelmoSerializer>\n");
 }

@@ -40,7 +40,7 @@ protected:
     /// Opens a scene and waits until it is there.
     void open(const QString &scene = QStringLiteral("Hall")) const;
     QString path(const QString &scene = QStringLiteral("Hall")) const;
-    /// Writes a scene's file: the root, default facts and @p content.
+    /// Writes a scene's file: the root round @p content, and facts if it has none.
     void write(const QString &scene, const QByteArray &content) const;
 
 private:

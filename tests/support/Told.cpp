@@ -34,9 +34,9 @@ int Told::qt_metacall(QMetaObject::Call call, int id, void **arguments)
     const QMetaMethod &signal = m_signals[id];
     QStringList words{QString::fromLatin1(signal.name())};
     for (int i = 0; i < signal.parameterCount(); ++i) {
-        const QString text = textOf(QVariant(signal.parameterMetaType(i), arguments[i + 1]));
-        if (!text.isNull())
-            words << text;
+        const QVariant argument(signal.parameterMetaType(i), arguments[i + 1]);
+        if (argument.canConvert<QString>() || argument.canConvert<QStringList>())
+            words << textOf(argument);
     }
     m_told << words.join(u' ');
     return -1;
