@@ -17,13 +17,14 @@ function(planted what expected)
     file(WRITE "${WORK}/library/frame/Window.h" "#pragma once\n#include \"foundation/Label.h\"\n")
     file(WRITE "${WORK}/library/frame/Window.cpp"
         "#include \"frame/Window.h\"\n#include \"foundation/Sheets.h\"\n#include \"ui_Window.h\"\n")
+    file(WRITE "${WORK}/users/Page.cpp" "#include <Label.h>\n#include \"frame/Window.h\"\n")
     while(ARGN)
         list(POP_FRONT ARGN file text)
         file(WRITE "${WORK}/${file}" "${text}\n")
     endwhile()
 
     check_answer("${what}" "${expected}" ${CMAKE_COMMAND} "-DLIBRARY=${WORK}/library" "-DTABLE=${WORK}/table.md"
-        "-DPUBLIC_HEADERS=${WORK}/public.txt" "-DBASE_HEADERS=${WORK}/base.txt" -P "${CHECK}")
+        "-DPUBLIC_HEADERS=${WORK}/public.txt" "-DBASE_HEADERS=${WORK}/base.txt" "-DUSERS=${WORK}/users" -P "${CHECK}")
 endfunction()
 
 planted("a sound library" "")
@@ -48,4 +49,6 @@ planted("a public header on the toolkit's private parts" "a public header includ
     library/frame/Window.h "#include <private/qwidget_p.h>")
 planted("a public header with conditional parts" "has conditional parts"
     library/frame/Window.h "#ifdef _WIN32\n#endif")
+planted("an application on a private header" "Page.cpp: includes the private Sheets.h"
+    users/Page.cpp "#include <Sheets.h>")
 planted("no table" "has no table of folders" table.md "# Layers")
