@@ -429,10 +429,10 @@ private slots:
         QVERIFY(picture() != plain);
         QVERIFY(Events::untilIdle());
         Events::Count paints(shown.chart, QEvent::Paint);
-        shown.hover(onRing(90));
+        shown.hover(onRing(300));
         QVERIFY(Events::untilIdle());
         QCOMPARE(paints.taken(), 1);
-        shown.hover(onRing(91));
+        shown.hover(onRing(301));
         QVERIFY(Events::untilIdle());
         QCOMPARE(paints.taken(), 0);
     }

@@ -53,7 +53,10 @@ public:
     CacheCounters()
     {
         setFixedHeight(16);
-        m_timer.callOnTimeout(this, qOverload<>(&QWidget::update));
+        m_timer.callOnTimeout(this, [this] {
+            if (text() != m_painted)
+                update();
+        });
     }
 
 protected:
@@ -71,17 +74,23 @@ protected:
 
     void paintEvent(QPaintEvent *) override
     {
-        const QString text = IconsPage::tr("%1 pictures   ·   %2   ·   %3 files   ·   %4 files parsed")
-                                 .arg(OvixSvgCacheCounters::pixmaps())
-                                 .arg(QLocale().formattedDataSize(OvixSvgCacheCounters::bytes()))
-                                 .arg(OvixSvgCacheCounters::documents())
-                                 .arg(OvixSvgCacheCounters::loads());
+        m_painted = text();
         QPainter painter(this);
-        painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter, text);
+        painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter, m_painted);
     }
 
 private:
+    static QString text()
+    {
+        return IconsPage::tr("%1 pictures   ·   %2   ·   %3 files   ·   %4 files parsed")
+            .arg(OvixSvgCacheCounters::pixmaps())
+            .arg(QLocale().formattedDataSize(OvixSvgCacheCounters::bytes()))
+            .arg(OvixSvgCacheCounters::documents())
+            .arg(OvixSvgCacheCounters::loads());
+    }
+
     QTimer m_timer;
+    QString m_painted;
 };
 
 } // namespace

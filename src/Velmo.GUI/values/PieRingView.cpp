@@ -42,6 +42,28 @@ bool PieRingView::setHover(const Hover &hover)
     return before.slice != hover.slice || before.edge != hover.edge;
 }
 
+QRegion PieRingView::areaOf(const Hover &hover, int selected, const QSize &size) const
+{
+    constexpr int handle = 6;
+    QRegion area;
+    const auto add = [&](const PieRing::Arc &arc) {
+        area += PieRing::boundingRect(arc, size).adjusted(-handle, -handle, handle, handle);
+    };
+    const PieRing::Arc *lit = hover.slice == selected ? nullptr : arcOf(hover.slice);
+    if (lit) {
+        add(*lit);
+        QRect hole(0, 0, 2 * PieRing::InnerRadius, 2 * PieRing::InnerRadius);
+        hole.moveCenter({size.width() / 2, size.height() / 2});
+        area += hole;
+    }
+    const PieRing::Arc *held = arcOf(selected);
+    if (held && hover.edge != PieRing::Edge::None) {
+        const int end = held->start - (hover.edge == PieRing::Edge::End ? held->span : 0);
+        add({end + PieRing::GrabReach, 2 * PieRing::GrabReach});
+    }
+    return area;
+}
+
 bool PieRingView::endDrag()
 {
     return std::exchange(m_drag, {}).hasMoved();

@@ -2,6 +2,8 @@
 
 #include "values/PieRing.h"
 
+#include <QRegion>
+
 #include <vector>
 
 class QAbstractItemModel;
@@ -33,6 +35,8 @@ public:
     const Hover &hover() const { return m_hover; }
     /// Whether it is another one.
     bool setHover(const Hover &hover);
+    /// Where a chart of this size shows @p hover while @p selected is selected: the slice and its caption, the edge.
+    QRegion areaOf(const Hover &hover, int selected, const QSize &size) const;
 
     void press(const PieRing::Arc &arc, int angle, double share) { m_drag = PieRing::Drag(arc, angle, share); }
     PieRing::Drag &drag() { return m_drag; }

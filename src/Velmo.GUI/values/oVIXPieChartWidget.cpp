@@ -433,8 +433,9 @@ void oVIXPieChartWidget::setHover(int slice, PieRing::Edge edge)
         unsetCursor();
     else
         setCursor(m_ring->drag().isRunning() ? Qt::ClosedHandCursor : Qt::OpenHandCursor);
+    const PieRingView::Hover before = m_ring->hover();
     if (m_ring->setHover({slice, edge}))
-        update();
+        update(m_ring->areaOf(before, m_currentIndex, size()) + m_ring->areaOf({slice, edge}, m_currentIndex, size()));
 }
 
 void oVIXPieChartWidget::dragTo(int angle)
