@@ -8,29 +8,53 @@
 #include "frame/oVIXGrip.h"
 #include "values/oVIXTimebarWidget.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QBackingStore>
 #include <QCursor>
 #include <QMainWindow>
 #include <QPaintEvent>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <numeric>
+
 using namespace Qt::StringLiterals;
 
 namespace {
+
+int areaOf(const QRegion &region)
+{
+    return std::accumulate(region.begin(), region.end(), 0,
+                           [](int sum, const QRect &rect) { return sum + rect.width() * rect.height(); });
+}
 
 /// What the pointer has done to a window and what has been painted of it, in the window's coordinates.
 class Watch : public QObject
 {
 public:
-    explicit Watch(QWidget *window) : m_window(window) { qApp->installEventFilter(this); }
+    explicit Watch(QWidget *window) : m_window(window), m_before(screen().copy()) { qApp->installEventFilter(this); }
 
     /// Forgets everything but where the pointer is.
     void start()
     {
+        if (!m_painted.isEmpty())
+            m_before = screen().copy();
         m_touched = placeOf(below());
         m_painted = QRegion();
         m_painters.clear();
+        m_leftTimebars.clear();
+        m_crossedViews = QRegion();
+    }
+
+    /// Lets what has begun to come and go arrive at once; the markers of a timebar would go some time later.
+    void endFades()
+    {
+        for (oVIXTimebarWidget *timebar : std::as_const(m_leftTimebars)) {
+            if (!timebar->rect().contains(timebar->mapFromGlobal(QCursor::pos())))
+                timebar->hideLabels();
+        }
+        Views::endAnimations(m_window);
     }
 
     /// What has been painted that is of no widget which the pointer has been over, has entered or has left.
@@ -39,10 +63,6 @@ public:
         QRegion elsewhere = m_painted - m_touched - placeOf(below());
         if (elsewhere.isEmpty())
             return elsewhere;
-        // The markers of a timebar fade some time after the pointer has left.
-        const QList<oVIXTimebarWidget *> timebars = m_window->findChildren<oVIXTimebarWidget *>();
-        for (const oVIXTimebarWidget *timebar : timebars)
-            elsewhere -= placeOf(timebar);
         // A header that shows its buttons has the panels laid out, after which the toolkit paints the gaps between
         // them.
         QList<QMainWindow *> mainWindows = m_window->findChildren<QMainWindow *>();
@@ -51,6 +71,16 @@ public:
         for (const QMainWindow *mainWindow : mainWindows)
             elsewhere -= gapsOf(mainWindow);
         return elsewhere;
+    }
+
+    /// What has been painted if that is far more than what looks different now.
+    QRegion paintedInVain() const
+    {
+        constexpr int bearable = 20000; // device pixels: a row of a list
+        constexpr int muchLarger = 8;
+        const QRegion painted = m_painted - m_crossedViews;
+        const bool isLarge = areaOf(painted) > bearable;
+        return isLarge && areaOf(painted) > bearable + muchLarger * areaOf(changesIn(painted)) ? painted : QRegion();
     }
 
     /// The widgets that paint something of @p region.
@@ -81,11 +111,37 @@ protected:
                    && (type == QEvent::Enter || type == QEvent::Leave || type == QEvent::HoverEnter
                        || type == QEvent::HoverLeave)) {
             m_touched += placeOf(widget);
+            if (auto *timebar = qobject_cast<oVIXTimebarWidget *>(widget); timebar && type == QEvent::Leave)
+                m_leftTimebars << timebar;
+            // The toolkit paints all of an item view when the pointer comes and goes.
+            if (qobject_cast<QAbstractItemView *>(widget) || qobject_cast<QAbstractItemView *>(widget->parentWidget()))
+                m_crossedViews += placeOf(widget);
         }
         return false;
     }
 
 private:
+    /// What the platform keeps of the window at a scale of 1.
+    const QImage &screen() const { return *static_cast<QImage *>(m_window->backingStore()->paintDevice()); }
+
+    /// The tiles of @p region that look different now.
+    QRegion changesIn(const QRegion &region) const
+    {
+        constexpr int tile = 16;
+        const QImage &now = screen();
+        QRegion changed;
+        for (const QRect rect : region.intersected(now.rect())) {
+            for (int y = rect.top(); y <= rect.bottom(); y += tile) {
+                for (int x = rect.left(); x <= rect.right(); x += tile) {
+                    const QRect part = QRect(x, y, tile, tile) & rect;
+                    if (now.copy(part) != m_before.copy(part))
+                        changed += part;
+                }
+            }
+        }
+        return changed;
+    }
+
     QRect placeOf(const QWidget *widget) const
     {
         constexpr int frame = 2; // round a widget that its parent draws for it
@@ -110,9 +166,12 @@ private:
     }
 
     QWidget *m_window;
+    QImage m_before;
     QRegion m_touched;
     QRegion m_painted;
     QList<std::pair<QString, QRegion>> m_painters;
+    QList<oVIXTimebarWidget *> m_leftTimebars;
+    QRegion m_crossedViews;
 };
 
 /// A coarse grid, and the middle of everything that is no bigger than a row.
@@ -156,32 +215,35 @@ private slots:
     void thePointerRepaintsOnlyWhatItChanges()
     {
         QFETCH(QString, name);
-        const std::unique_ptr<QWidget> view = Views::show(name);
-        QVERIFY(view);
-        QWidget *window = QApplication::activeModalWidget() ? QApplication::activeModalWidget() : view.get();
-        Gestures::hover(window, QPoint(0, 0));
-        QVERIFY(Events::untilIdle());
-        Watch watch(window);
-        QStringList faults;
-        const QList<QPoint> places = placesIn(window);
-        for (const QPoint place : places) {
-            watch.start();
-            Gestures::hover(window, place);
+        Views::with(name, [](QWidget *window) {
+            Gestures::hover(window, QPoint(0, 0));
             QVERIFY(Events::untilIdle());
-            const QRegion elsewhere = watch.paintedElsewhere();
-            if (!elsewhere.isEmpty())
-                faults << u"At %1, %2 also %3, %4, %5 x %6 has been painted: %7"_s.arg(place.x())
-                              .arg(place.y())
-                              .arg(elsewhere.boundingRect().x())
-                              .arg(elsewhere.boundingRect().y())
-                              .arg(elsewhere.boundingRect().width())
-                              .arg(elsewhere.boundingRect().height())
-                              .arg(watch.paintersOf(elsewhere).join(u", "_s));
-        }
-        Gestures::leave();
-        for (const QString &fault : std::as_const(faults))
-            qInfo().noquote() << fault;
-        QCOMPARE(faults.size(), 0);
+            Watch watch(window);
+            QStringList faults;
+            const QList<QPoint> places = placesIn(window);
+            for (const QPoint place : places) {
+                watch.start();
+                Gestures::hover(window, place);
+                QVERIFY(Events::untilIdle());
+                watch.endFades();
+                QVERIFY(Events::untilIdle());
+                for (const QRegion &region : {watch.paintedElsewhere(), watch.paintedInVain()}) {
+                    const QRect box = region.boundingRect();
+                    if (!box.isEmpty())
+                        faults << u"At %1, %2 also %3, %4, %5 x %6 has been painted: %7"_s.arg(place.x())
+                                      .arg(place.y())
+                                      .arg(box.x())
+                                      .arg(box.y())
+                                      .arg(box.width())
+                                      .arg(box.height())
+                                      .arg(watch.paintersOf(region).join(u", "_s));
+                }
+            }
+            Gestures::leave();
+            for (const QString &fault : std::as_const(faults))
+                qInfo().noquote() << fault;
+            QCOMPARE(faults.size(), 0);
+        });
     }
 
 private:

@@ -8,18 +8,25 @@
 #include "gallery/GalleryWindow.h"
 #include "look/ApplicationLook.h"
 #include "look/Wording.h"
+#include "oVIXCombo.h"
+#include "oVIXWindowWaitGlobal.h"
+#include "panels/LibraryPanel.h"
 #include "scenes/ShippedProjects.h"
 #include "start/StartScreen.h"
 #include "window/ScenePage.h"
 #include "window/WorkstationWindow.h"
 
 #include <QAbstractAnimation>
+#include <QApplication>
 #include <QDialog>
+#include <QDockWidget>
+#include <QMenuBar>
 #include <QRegularExpression>
 #include <QTest>
+#include <QTimer>
 
 #include <algorithm>
-#include <functional>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -71,6 +78,45 @@ Window messageBox(VelmoButtonMode mode, const QString &text)
     return window;
 }
 
+Window openMenu(Window window, int menu)
+{
+    if (window)
+        window->menuBar()->setActiveAction(window->menuBar()->actions().at(menu));
+    return window;
+}
+
+Window floatingPanel()
+{
+    Window window = scenePage();
+    if (window)
+        window->libraryPanel()->setFloating(true);
+    return window;
+}
+
+/// The mark of a wait that nothing has started stands still.
+Window wait(const QString &text)
+{
+    Window window = scenePage();
+    if (!window)
+        return nullptr;
+    oVIXWindowWaitGlobal *overlay = window->getWindowWait();
+    overlay->setText(text);
+    overlay->setTextVisible(true);
+    overlay->setPercentVisible(true);
+    overlay->show();
+    return window;
+}
+
+std::unique_ptr<QWidget> combo()
+{
+    auto combo = std::make_unique<oVIXCombo>();
+    combo->resize(184, combo->height());
+    combo->setText(u"Motion"_s);
+    const QStringList motions{u"Walk"_s, u"Stand & wait"_s, u"Follow the nearest vehicle at a distance"_s};
+    combo->addItems(motions, motions);
+    return combo;
+}
+
 /// A whole page, however tall.
 std::unique_ptr<QWidget> galleryPage(const GalleryPages::Page &page)
 {
@@ -109,23 +155,18 @@ QList<View> all()
         {u"start-tour"_s, [] { return withDialog(startScreen(0), &WorkstationWindow::showTour); }},
         {u"scene"_s, [] { return scenePage(); }},
         {u"scene-facts"_s, [] { return withDialog(scenePage(), &WorkstationWindow::showSceneFacts); }},
+        {u"scene-menu"_s, [] { return openMenu(scenePage(), 0); }},
+        {u"scene-panels"_s, [] { return openMenu(scenePage(), 1); }},
+        {u"scene-floating"_s, [] { return floatingPanel(); }},
+        {u"scene-wait"_s, [sentence] { return wait(sentence.repeated(9)); }},
         {u"scene-tour"_s, [] { return withDialog(scenePage(), &WorkstationWindow::showTour); }},
         {u"box-question"_s, [] { return messageBox(QuestionButtons, u"Delete it?"_s); }},
         {u"box-edit"_s, [] { return messageBox(EditButtons, u"Scene"_s); }},
         {u"box-options"_s, [sentence] { return messageBox(ThreeOptionButtons, sentence.repeated(9)); }},
         {u"box-long"_s, [sentence] { return messageBox(InformationButtons, sentence.repeated(60)); }},
+        {u"combo-menu"_s, [] { return combo(); }},
     };
     return views;
-}
-
-/// Nothing moves by itself any more.
-void endAnimations(QWidget *window)
-{
-    const QList<QAbstractAnimation *> animations = window->findChildren<QAbstractAnimation *>();
-    for (QAbstractAnimation *animation : animations) {
-        if (animation->state() == QAbstractAnimation::Running)
-            animation->setCurrentTime(animation->totalDuration());
-    }
 }
 
 /// The toolkit has made dialogs fit a screen that is smaller than any which a scale of 3 is for.
@@ -136,6 +177,20 @@ void growToSizeHints(QWidget *window)
         if (dialog->height() < dialog->sizeHint().height())
             dialog->setFixedHeight(dialog->sizeHint().height());
     }
+}
+
+/// What lies over @p window, or that itself.
+QWidget *frontOf(QWidget *window)
+{
+    if (QWidget *popup = QApplication::activePopupWidget())
+        return popup;
+    if (QWidget *modal = QApplication::activeModalWidget())
+        return modal;
+    const QList<QDockWidget *> panels = window->findChildren<QDockWidget *>();
+    const auto floating = std::find_if(panels.cbegin(), panels.cend(), [](const QDockWidget *panel) {
+        return panel->isVisible() && panel->isFloating();
+    });
+    return floating == panels.cend() ? window : *floating;
 }
 
 } // namespace
@@ -155,21 +210,39 @@ QStringList Views::names()
     return names;
 }
 
-std::unique_ptr<QWidget> Views::show(const QString &name)
+void Views::with(const QString &name, const std::function<void(QWidget *)> &look)
 {
     const QList<View> views = all();
     const auto view = std::find_if(views.cbegin(), views.cend(), [&](const View &known) { return known.name == name; });
     for (int i = 0; i < view->complaints; ++i)
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Could not parse stylesheet of object QRadioButton"_s));
-    std::unique_ptr<QWidget> window = view->create();
-    if (!window) {
-        QTest::qFail("it does not come up", __FILE__, __LINE__);
-        return nullptr;
-    }
+    const std::unique_ptr<QWidget> window = view->create();
+    QVERIFY2(window, "it does not come up");
     window->show();
     Events::untilIdle();
     endAnimations(window.get());
     growToSizeHints(window.get());
     Events::untilIdle();
-    return window;
+    const auto lookAtFront = [&] { look(frontOf(window.get())); };
+    auto *combo = qobject_cast<oVIXCombo *>(window.get());
+    if (!combo) {
+        lookAtFront();
+        return;
+    }
+    // It waits for its menu.
+    QTimer::singleShot(0, combo, [&] {
+        QVERIFY(QApplication::activePopupWidget());
+        lookAtFront();
+        QApplication::activePopupWidget()->close();
+    });
+    QMetaObject::invokeMethod(combo, "showMenu");
+}
+
+void Views::endAnimations(const QWidget *window)
+{
+    const QList<QAbstractAnimation *> animations = window->findChildren<QAbstractAnimation *>();
+    for (QAbstractAnimation *animation : animations) {
+        if (animation->state() == QAbstractAnimation::Running)
+            animation->setCurrentTime(animation->totalDuration());
+    }
 }

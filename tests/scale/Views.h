@@ -3,11 +3,11 @@
 #include <QString>
 #include <QStringList>
 
-#include <memory>
+#include <functional>
 
 class QWidget;
 
-/// What the application can show: every gallery page, the windows and the boxes.
+/// What the application can show: every gallery page, the windows, the boxes and the menus.
 namespace Views {
 
 /// The look and the wording of the application, for the rest of the process.
@@ -15,8 +15,11 @@ void installLook();
 
 QStringList names();
 
-/// Puts what has this name on screen, complete: read, loaded and laid out. Dialogs lie over their window and go with
-/// it. Null, after a failed check, when it does not come up.
-std::unique_ptr<QWidget> show(const QString &name);
+/// Puts what has this name on screen, complete: read, loaded and laid out. While it is there, @p look is called with
+/// the window in front; a failed check when it does not come up.
+void with(const QString &name, const std::function<void(QWidget *front)> &look);
+
+/// Nothing in @p window moves by itself any more.
+void endAnimations(const QWidget *window);
 
 } // namespace Views

@@ -35,20 +35,20 @@ private slots:
     void fits()
     {
         QFETCH(QString, name);
-        const std::unique_ptr<QWidget> view = Views::show(name);
-        QVERIFY(view);
-        QStringList faults;
-        const QWidgetList windows = QApplication::topLevelWidgets();
-        for (const QWidget *window : windows) {
-            if (!window->isVisible())
-                continue;
-            faults += LayoutFaults::clippedTexts(window);
-            faults += LayoutFaults::overlaps(window);
-            faults += LayoutFaults::blurredPictures(window);
-        }
-        for (const QString &fault : std::as_const(faults))
-            qInfo().noquote() << fault;
-        QCOMPARE(faults.size(), 0);
+        Views::with(name, [](const QWidget *) {
+            QStringList faults;
+            const QWidgetList windows = QApplication::topLevelWidgets();
+            for (const QWidget *window : windows) {
+                if (!window->isVisible())
+                    continue;
+                faults += LayoutFaults::clippedTexts(window);
+                faults += LayoutFaults::overlaps(window);
+                faults += LayoutFaults::blurredPictures(window);
+            }
+            for (const QString &fault : std::as_const(faults))
+                qInfo().noquote() << fault;
+            QCOMPARE(faults.size(), 0);
+        });
     }
 
     /// Half pixels come from places that are not whole device pixels.
