@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPointer>
 #include <QProcess>
+#include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOptionFocusRect>
 #include <QTemporaryDir>
@@ -21,6 +22,22 @@ namespace {
 
 constexpr char readPaths[] = "--read-qt-paths";
 constexpr char tellBaseStyle[] = "--tell-base-style";
+
+/// Counts the icons that it is asked for.
+class CountingStyle : public QProxyStyle
+{
+public:
+    QIcon standardIcon(StandardPixmap which, const QStyleOption *option, const QWidget *widget) const override
+    {
+        ++m_count;
+        return QProxyStyle::standardIcon(which, option, widget);
+    }
+
+    int count() const { return m_count; }
+
+private:
+    mutable int m_count = 0;
+};
 
 QImage drawnFocusRectangle(const QStyle &style, QStyle::PrimitiveElement element)
 {
@@ -102,6 +119,32 @@ private slots:
         QVERIFY(drawnFocusRectangle(*fusion, QStyle::PE_FrameFocusRect) != blank);
         QCOMPARE(drawnFocusRectangle(style, QStyle::PE_FrameFocusRect), blank);
         QCOMPARE(drawnFocusRectangle(style, QStyle::PE_PanelMenu), drawnFocusRectangle(*fusion, QStyle::PE_PanelMenu));
+    }
+
+    void makesTheIconOfNarrowMenuBarsWhenItIsDrawn()
+    {
+        constexpr auto which = QStyle::SP_ToolBarHorizontalExtensionButton;
+        auto *base = new CountingStyle; // belongs to the style
+        auto style = std::make_unique<oVIXStyle>();
+        style->setBaseStyle(base);
+        for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            QStyleOption option;
+            option.direction = direction;
+            const int before = base->count();
+            const QIcon icon = style->standardIcon(which, &option);
+            QCOMPARE(base->count(), before);
+            const QIcon expected = base->QProxyStyle::standardIcon(which, &option);
+            for (const qreal ratio : {1.0, 2.0}) {
+                QCOMPARE(icon.pixmap(QSize(16, 16), ratio).toImage(), expected.pixmap(QSize(16, 16), ratio).toImage());
+                QCOMPARE(icon.pixmap(QSize(16, 16), ratio).devicePixelRatio(), ratio);
+            }
+            QCOMPARE(icon.availableSizes(), expected.availableSizes());
+            QCOMPARE(base->count(), before + 1);
+        }
+
+        const QIcon icon = style->standardIcon(which);
+        style.reset();
+        QVERIFY(!icon.pixmap(16, 16).isNull());
     }
 
     void leavesTheApplicationsStyleAlone()

@@ -23,6 +23,9 @@ public:
     /// 300 for both tool tip delays, in milliseconds.
     int styleHint(StyleHint hint, const QStyleOption *option = nullptr, const QWidget *widget = nullptr,
                   QStyleHintReturn *returnData = nullptr) const override;
+    /// The base style's icons. The one of a menu bar that is too narrow for its menus is made when it is drawn.
+    QIcon standardIcon(StandardPixmap which, const QStyleOption *option = nullptr,
+                       const QWidget *widget = nullptr) const override;
 
     /// The application-wide style sheet, always the same text.
     static QString getAppStyleSheet();
