@@ -23,9 +23,9 @@ QString projectsTableSheet()
 
 VelmoProjectsTable::VelmoProjectsTable(QWidget *parent) : QWidget(parent), m_ui(new Ui::VelmoProjectsTable)
 {
+    setStyleSheet(projectsTableSheet()); // before there are children, which it would style anew
     m_ui->setupUi(this);
     connect(m_ui->listWidget, &QListWidget::itemSelectionChanged, this, &VelmoProjectsTable::listSelectionChanged);
-    setStyleSheet(projectsTableSheet());
 }
 
 VelmoProjectsTable::~VelmoProjectsTable() = default;

@@ -32,10 +32,10 @@ QString tableSheet()
 VelmoScenesTable::VelmoScenesTable(QWidget *parent)
     : QWidget(parent), m_ui(new Ui::VelmoScenesTable), m_names(new SceneNameIndex)
 {
+    setStyleSheet(tableSheet()); // before there are children, which it would style anew
     m_ui->setupUi(this);
     connect(m_ui->listWidget, &QListWidget::itemSelectionChanged, this, &VelmoScenesTable::listSelectionChanged);
     connect(m_ui->listWidget, &QListWidget::itemChanged, this, &VelmoScenesTable::updateNameOf);
-    setStyleSheet(tableSheet());
 }
 
 VelmoScenesTable::~VelmoScenesTable() = default;
