@@ -63,7 +63,7 @@ TourSteps::Steps TourSteps::ofStartScreen(const WorkstationWindow *window)
     return steps;
 }
 
-TourSteps::Steps TourSteps::ofScene(const WorkstationWindow *window)
+TourSteps::Steps TourSteps::ofScene(WorkstationWindow *window)
 {
     const ScenePage *page = window->scenePage();
     Steps steps;

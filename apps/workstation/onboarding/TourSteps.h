@@ -13,6 +13,6 @@ namespace TourSteps {
 using Steps = std::vector<std::unique_ptr<oVIXGuideStep>>;
 
 Steps ofStartScreen(const WorkstationWindow *window);
-Steps ofScene(const WorkstationWindow *window);
+Steps ofScene(WorkstationWindow *window);
 
 } // namespace TourSteps

@@ -222,13 +222,12 @@ QWidget *StartScreen::createScenesPanel()
     m_scenesTitle = new ElidedLabel(panel);
     m_scenesTitle->setObjectName(u"panelTitle"_s);
     addTitle(m_scenesTitle, panel);
-    m_scenesPanel = new ScenesPanel(panel);
-    m_emptyNote = panelLabel(u"emptyNote"_s, panel);
+    m_scenesStack = new QStackedWidget(panel);
+    m_scenesPanel = new ScenesPanel(m_scenesStack);
+    m_emptyNote = panelLabel(u"emptyNote"_s, m_scenesStack);
     m_emptyNote->setAlignment(Qt::AlignCenter);
     m_emptyNote->setWordWrap(true);
     m_emptyNote->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
-
-    m_scenesStack = new QStackedWidget(panel);
     m_scenesStack->addWidget(m_emptyNote);
     m_scenesStack->addWidget(m_scenesPanel);
     panel->layout()->addWidget(m_scenesStack);

@@ -1,24 +1,22 @@
 #include "window/WorkstationWindow.h"
 
 #include "onboarding/Onboarding.h"
-#include "panels/CrowdEditor.h"
 #include "panels/LibraryPanel.h"
 #include "panels/ParametersPanel.h"
 #include "panels/TagsPanel.h"
 #include "start/SceneQuestions.h"
 #include "start/StartScreen.h"
 #include "window/PlayMenu.h"
+#include "window/SceneEditor.h"
 #include "window/SceneFactsDialog.h"
 #include "window/SceneKeeper.h"
 #include "window/ScenePage.h"
-#include "window/SceneView.h"
 #include "window/WaitPicture.h"
 #include "window/WelcomeDialog.h"
 
-#include <OvixSvgButton.h>
 #include <VelmoAboutDialog.h>
 #include <VelmoFeedbackConsentDialog.h>
-#include <oVIXDockBar.h>
+#include <oVIXDock.h>
 #include <oVIXMinMaxCloseWidget.h>
 #include <oVIXTitleBar.h>
 #include <oVIXWindowWaitGlobal.h>
@@ -43,15 +41,6 @@ constexpr auto reportInterval = 50ms;
 constexpr auto geometryKey = "window/geometry";
 constexpr auto panelsKey = "window/panels";
 
-/// For the keyboard and for assistive tools, which have no pointer to hover with.
-void keepHeaderInReach(oVIXDock *panel)
-{
-    const QList<OvixSvgButton *> buttons = panel->getTitleWidget()->findChildren<OvixSvgButton *>();
-    for (OvixSvgButton *button : buttons)
-        button->setFocusPolicy(Qt::TabFocus);
-    panel->setHideSearchUntilHover(false);
-}
-
 } // namespace
 
 /// The linker drops the pictures of a static library that nobody asks for.
@@ -61,18 +50,16 @@ static void useIcons()
 }
 
 WorkstationWindow::WorkstationWindow(const QString &projectsFolder, QSettings *settings)
-    : m_onboarding(new Onboarding(this, settings)), m_pages(new QStackedWidget(this)),
-      m_startScreen(new StartScreen(projectsFolder, m_pages)), m_scenePage(new ScenePage(m_pages)),
-      m_keeper(new SceneKeeper(m_scenePage, this)), m_projectsFolder(projectsFolder), m_settings(settings),
+    : m_onboarding(new Onboarding(this, settings)), m_projectsFolder(projectsFolder), m_settings(settings),
       m_loading(getWindowWait(), getWindowWait())
 {
-    setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+    setWindowFlags(Qt::Window | Qt::FramelessWindowHint); // styles anew all that there is
     setWindowTitle(QGuiApplication::applicationDisplayName());
+    m_pages = new QStackedWidget(this);
+    m_startScreen = new StartScreen(projectsFolder, m_pages);
     m_pages->addWidget(m_startScreen);
-    m_pages->addWidget(m_scenePage);
     setCentralWidget(m_pages);
     showPage(m_startScreen);
-    createPanels();
     createMenus();
     createTitleBar();
     new WaitPicture(getWindowWait());
@@ -81,9 +68,6 @@ WorkstationWindow::WorkstationWindow(const QString &projectsFolder, QSettings *s
 
     connect(m_startScreen, &StartScreen::openRequested, this, &WorkstationWindow::openScene);
     connect(m_startScreen, &StartScreen::selectionChanged, this, &WorkstationWindow::updateActions);
-    connect(m_scenePage, &ScenePage::modifiedChanged, this,
-            [this](bool isModified) { setWindowModified(isModified && showsScene()); });
-    connect(m_keeper, &SceneKeeper::saved, this, [this] { m_isListStale = true; });
     connect(&m_loading, &SceneLoading::loaded, this, &WorkstationWindow::showScene);
     connect(&m_loading, &SceneLoading::failed, this, &WorkstationWindow::reportProblem);
     connect(&m_loading, &SceneLoading::cancelled, this, &WorkstationWindow::noteProblem);
@@ -99,29 +83,29 @@ StartScreen *WorkstationWindow::startScreen() const
     return m_startScreen;
 }
 
-ScenePage *WorkstationWindow::scenePage() const
+ScenePage *WorkstationWindow::scenePage()
 {
-    return m_scenePage;
+    return editor()->page();
 }
 
-LibraryPanel *WorkstationWindow::libraryPanel() const
+LibraryPanel *WorkstationWindow::libraryPanel()
 {
-    return m_library;
+    return editor()->library();
 }
 
-ParametersPanel *WorkstationWindow::parametersPanel() const
+ParametersPanel *WorkstationWindow::parametersPanel()
 {
-    return m_parameters;
+    return editor()->parameters();
 }
 
-TagsPanel *WorkstationWindow::tagsPanel() const
+TagsPanel *WorkstationWindow::tagsPanel()
 {
-    return m_tags;
+    return editor()->tags();
 }
 
 bool WorkstationWindow::showsScene() const
 {
-    return m_pages->currentWidget() == m_scenePage;
+    return m_pages->currentWidget() != m_startScreen;
 }
 
 bool WorkstationWindow::isLoading() const
@@ -140,6 +124,7 @@ void WorkstationWindow::openScene(const QString &path)
     wait->setTextVisible(true);
     wait->setPercentVisible(true);
     m_loading.load(path);
+    editor(); // meanwhile
     m_reportTimer.start();
     updateActions();
 }
@@ -148,8 +133,8 @@ void WorkstationWindow::saveScene()
 {
     if (!showsScene() || isLoading())
         return;
-    finishEdits();
-    m_keeper->save(); // the window may be gone afterwards
+    m_editor->finishEdits();
+    m_editor->keeper()->save(); // the window may be gone afterwards
 }
 
 void WorkstationWindow::closeScene()
@@ -168,7 +153,7 @@ void WorkstationWindow::closeScene()
 void WorkstationWindow::showSceneFacts()
 {
     if (showsScene())
-        (new SceneFactsDialog(m_scenePage->scene(), this))->open();
+        (new SceneFactsDialog(m_editor->page()->scene(), this))->open();
 }
 
 void WorkstationWindow::showWelcome()
@@ -250,19 +235,11 @@ void WorkstationWindow::createMenus()
     scene->addSeparator();
     scene->addAction(tr("Quit"), tr("Ctrl+Q"), this, &QWidget::close);
 
-    auto *play = new PlayMenu(m_scenePage, menuBar());
-    menuBar()->addMenu(play);
-
-    QMenu *window = menuBar()->addMenu(tr("Window"));
-    window->addAction(tr("Minimize"), this, &QWidget::showMinimized);
-    m_maximizeAction = window->addAction(QString(), this, &WorkstationWindow::toggleMaximized);
-    window->addSeparator();
-    for (oVIXDock *panel : panels())
-        window->addAction(panel->toggleViewAction());
-    QMenu *detach = window->addMenu(tr("Detach or dock"));
-    for (oVIXDock *panel : panels())
-        detach->addAction(panel->windowTitle(), panel, &oVIXDock::detachTriggered);
-    m_sceneMenus = {play, detach};
+    m_windowMenu = menuBar()->addMenu(tr("Window"));
+    m_windowMenu->addAction(tr("Minimize"), this, &QWidget::showMinimized);
+    m_maximizeAction = m_windowMenu->addAction(QString(), this, &WorkstationWindow::toggleMaximized);
+    m_windowMenu->addSeparator();
+    connect(m_windowMenu, &QMenu::aboutToShow, this, &WorkstationWindow::editor); // the panels are listed
 
     QMenu *help = menuBar()->addMenu(tr("Help"));
     help->addAction(tr("Welcome"), QKeySequence::HelpContents, this, &WorkstationWindow::showWelcome);
@@ -282,71 +259,42 @@ void WorkstationWindow::createTitleBar()
     connect(m_titleBar, &oVIXTitleBar::closed, this, &QWidget::close);
 }
 
-void WorkstationWindow::createPanels()
+SceneEditor *WorkstationWindow::editor()
 {
-    m_library = new LibraryPanel(this);
-    m_parameters = new ParametersPanel(this);
-    m_tags = new TagsPanel(this);
-    addDockWidget(Qt::LeftDockWidgetArea, m_library);
-    addDockWidget(Qt::RightDockWidgetArea, m_parameters);
-    addDockWidget(Qt::LeftDockWidgetArea, m_tags);
-    m_panelState = saveState();
-    for (oVIXDock *panel : panels()) {
-        keepHeaderInReach(panel);
-        panel->hide();
+    if (m_editor)
+        return m_editor;
+    m_editor = new SceneEditor(this, m_pages);
+    m_playMenu = new PlayMenu(m_editor->page(), menuBar());
+    menuBar()->insertMenu(m_windowMenu->menuAction(), m_playMenu);
+    m_detachMenu = new QMenu(tr("Detach or dock"), m_windowMenu);
+    for (oVIXDock *panel : m_editor->panels()) {
+        m_windowMenu->addAction(panel->toggleViewAction());
+        m_detachMenu->addAction(panel->windowTitle(), panel, &oVIXDock::detachTriggered);
     }
-
-    SceneView *view = m_scenePage->view();
-    connect(m_library, &LibraryPanel::typeSelected, this, [view](const QString &type) {
-        ViewOptions options = view->options();
-        options.highlightedType = type;
-        view->setOptions(options);
-    });
-    connect(m_parameters, &ParametersPanel::optionsChanged, this, [view](ViewOptions options) {
-        options.highlightedType = view->options().highlightedType;
-        options.highlightedTag = view->options().highlightedTag;
-        options.mode = view->options().mode;
-        view->setOptions(options);
-    });
-    connect(view, &SceneView::moverPicked, m_library, &LibraryPanel::selectType);
-    connect(view, &SceneView::zoomChanged, m_parameters, &ParametersPanel::setZoom);
-
-    connect(m_tags, &TagsPanel::filterChanged, this, [view](const QString &tag) {
-        ViewOptions options = view->options();
-        options.highlightedTag = tag;
-        view->setOptions(options);
-    });
-    connect(m_tags, &TagsPanel::tagsEdited, this, [this](const QStringList &assigned, const QStringList &available) {
-        m_scenePage->setTags(assigned, available);
-        m_tags->setScene(m_scenePage->scene());
-    });
-
-    CrowdEditor *crowd = m_parameters->crowd();
-    connect(crowd, &CrowdEditor::edited, this, [this, crowd] { m_scenePage->setCrowd(crowd->settings()); });
-    connect(crowd, &CrowdEditor::bakeClicked, m_scenePage, &ScenePage::toggleBaking);
-    connect(m_scenePage, &ScenePage::bakingChanged, crowd, &CrowdEditor::showBaking);
+    m_windowMenu->addMenu(m_detachMenu);
+    connect(m_editor->page(), &ScenePage::modifiedChanged, this,
+            [this](bool isModified) { setWindowModified(isModified && showsScene()); });
+    connect(m_editor->keeper(), &SceneKeeper::saved, this, [this] { m_isListStale = true; });
+    updateActions();
+    return m_editor;
 }
 
 void WorkstationWindow::showPage(QWidget *page)
 {
     m_onboarding->endTour();
     // The smallest size of the other page does not count.
-    for (QWidget *each : std::initializer_list<QWidget *>{m_startScreen, m_scenePage}) {
+    for (int i = 0; i < m_pages->count(); ++i) {
+        QWidget *each = m_pages->widget(i);
         const auto policy = each == page ? QSizePolicy::Preferred : QSizePolicy::Ignored;
         each->setSizePolicy(policy, policy);
     }
     m_pages->setCurrentWidget(page);
 }
 
-QList<oVIXDock *> WorkstationWindow::panels() const
-{
-    return {m_library, m_parameters, m_tags};
-}
-
 void WorkstationWindow::hidePanels()
 {
     m_panelState = saveState();
-    for (oVIXDock *panel : panels())
+    for (oVIXDock *panel : m_editor->panels())
         panel->hide();
 }
 
@@ -354,7 +302,7 @@ void WorkstationWindow::restorePanels()
 {
     if (restoreState(m_panelState))
         return;
-    for (oVIXDock *panel : panels())
+    for (oVIXDock *panel : m_editor->panels())
         panel->show();
 }
 
@@ -386,34 +334,21 @@ void WorkstationWindow::toggleMaximized()
 
 void WorkstationWindow::showScene(const Scene &scene)
 {
-    m_library->setScene(scene);
-    m_tags->setScene(scene);
-    m_parameters->crowd()->setScene(scene);
-    m_scenePage->setScene(scene, m_parameters->crowd()->settings());
-    showPage(m_scenePage);
+    m_editor->setScene(scene);
+    showPage(m_editor->page());
     restorePanels();
     const QString shownName = QString(scene.name).replace(u"[*]"_s, u"[*][*]"_s);
     setWindowTitle(tr("%1[*] - %2").arg(shownName, QGuiApplication::applicationDisplayName()));
-    setWindowModified(m_scenePage->isModified());
+    setWindowModified(m_editor->page()->isModified());
     endLoading();
-}
-
-void WorkstationWindow::finishEdits()
-{
-    const QPointer<QWidget> typing = QApplication::focusWidget();
-    if (typing)
-        typing->clearFocus();
-    if (typing && typing->isVisible())
-        typing->setFocus();
-    m_tags->finishEdits();
 }
 
 bool WorkstationWindow::mayLeaveScene()
 {
     if (!showsScene())
         return true;
-    finishEdits();
-    return m_keeper->mayLeave();
+    m_editor->finishEdits();
+    return m_editor->keeper()->mayLeave();
 }
 
 void WorkstationWindow::noteProblem(const QString &problem)
@@ -446,9 +381,11 @@ void WorkstationWindow::updateActions()
     m_saveAction->setEnabled(ready && showsScene()); // also for what is still being typed
     m_closeSceneAction->setEnabled(ready && showsScene());
     m_factsAction->setEnabled(ready && showsScene());
-    for (oVIXDock *panel : panels())
-        panel->toggleViewAction()->setEnabled(showsScene());
-    for (const QMenu *menu : std::as_const(m_sceneMenus))
-        menu->menuAction()->setEnabled(showsScene());
     m_maximizeAction->setText(isMaximized() ? tr("Restore") : tr("Maximize"));
+    if (!m_editor)
+        return;
+    m_playMenu->menuAction()->setVisible(showsScene());
+    m_detachMenu->setEnabled(showsScene());
+    for (oVIXDock *panel : m_editor->panels())
+        panel->toggleViewAction()->setEnabled(showsScene());
 }

@@ -13,11 +13,10 @@ class QAction;
 class QMenu;
 class QSettings;
 class QStackedWidget;
-class SceneKeeper;
+class SceneEditor;
 class ScenePage;
 class StartScreen;
 class TagsPanel;
-class oVIXDock;
 class oVIXTitleBar;
 
 /// The application's window: frameless, with the menu bar as its title bar, the start screen, and the page of the open
@@ -33,10 +32,11 @@ public:
     ~WorkstationWindow() override;
 
     StartScreen *startScreen() const;
-    ScenePage *scenePage() const;
-    LibraryPanel *libraryPanel() const;
-    ParametersPanel *parametersPanel() const;
-    TagsPanel *tagsPanel() const;
+    /// What a scene is edited with is made when it is first needed.
+    ScenePage *scenePage();
+    LibraryPanel *libraryPanel();
+    ParametersPanel *parametersPanel();
+    TagsPanel *tagsPanel();
     bool showsScene() const;
     bool isLoading() const;
 
@@ -69,9 +69,8 @@ protected:
 private:
     void createMenus();
     void createTitleBar();
-    void createPanels();
+    SceneEditor *editor();
     void showPage(QWidget *page);
-    QList<oVIXDock *> panels() const;
     /// Panels belong to the open scene: on the start screen there are none.
     void hidePanels();
     void restorePanels();
@@ -79,8 +78,6 @@ private:
     void restoreLayout();
     void toggleMaximized();
     void showScene(const Scene &scene);
-    /// What is being typed counts as entered.
-    void finishEdits();
     /// The window may be gone when the answer is no.
     bool mayLeaveScene();
     void noteProblem(const QString &problem);
@@ -89,12 +86,16 @@ private:
     void updateActions();
 
     Onboarding *m_onboarding;
-    QStackedWidget *m_pages;
-    StartScreen *m_startScreen;
-    ScenePage *m_scenePage;
-    SceneKeeper *m_keeper;
+    QStackedWidget *m_pages = nullptr;
+    StartScreen *m_startScreen = nullptr;
+    /// Null until the first scene is opened.
+    SceneEditor *m_editor = nullptr;
     oVIXTitleBar *m_titleBar = nullptr;
     QString m_projectsFolder;
+    QMenu *m_windowMenu = nullptr;
+    /// What is only there for an open scene; null before the first one.
+    QMenu *m_playMenu = nullptr;
+    QMenu *m_detachMenu = nullptr;
     QAction *m_openAction = nullptr;
     QAction *m_newAction = nullptr;
     /// What is done to the file of the selected scene.
@@ -103,15 +104,10 @@ private:
     QAction *m_closeSceneAction = nullptr;
     QAction *m_factsAction = nullptr;
     QAction *m_maximizeAction = nullptr;
-    /// What is only there for an open scene.
-    QList<QMenu *> m_sceneMenus;
-    LibraryPanel *m_library = nullptr;
-    ParametersPanel *m_parameters = nullptr;
-    TagsPanel *m_tags = nullptr;
     QSettings *m_settings;
     /// The start screen does not show yet what has been saved.
     bool m_isListStale = false;
-    /// Where the panels are while a scene is open.
+    /// Where the panels are while a scene is open; empty for where they come up.
     QByteArray m_panelState;
     /// Lets the wait overlay show what the loading thread says.
     QTimer m_reportTimer;
