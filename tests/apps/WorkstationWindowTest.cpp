@@ -21,7 +21,10 @@
 #include "window/WorkstationWindow.h"
 
 #include <QAction>
+#include <QDockWidget>
 #include <QListView>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -102,6 +105,20 @@ private slots:
         QTest::keyClick(dialog.data(), Qt::Key_Escape);
         QTRY_VERIFY(!dialog);
         QVERIFY(!block->isVisible());
+    }
+
+    void whatEditsIsMadeWhenItIsNeeded()
+    {
+        QVERIFY(!m_window->findChild<ScenePage *>() && !action(u"Library: Kinds"_s));
+        QMenu *menu = action(u"Window"_s)->menu();
+        menu->popup(m_window->pos());
+        QVERIFY(action(u"Library: Kinds"_s) && !action(u"Library: Kinds"_s)->isEnabled());
+        menu->close();
+        QVERIFY(!m_window->showsScene() && m_window->startScreen()->isVisible());
+        QCOMPARE(m_window->findChildren<QDockWidget *>().size(), 3);
+        m_window->openScene(path(u"Hall"_s));
+        QTRY_VERIFY(m_window->showsScene());
+        QCOMPARE(m_window->findChildren<QDockWidget *>().size(), 3);
     }
 
     void comesBackAsLargeAsItWas()
