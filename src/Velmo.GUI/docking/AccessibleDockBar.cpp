@@ -6,7 +6,7 @@
 #include "foundation/AccessibleWidgets.h"
 #include "foundation/OvixSvgButton.h"
 
-AccessibleDockBar::AccessibleDockBar(QWidget *header) : QAccessibleWidget(header, QAccessible::TitleBar)
+AccessibleDockBar::AccessibleDockBar(QWidget *header) : QAccessibleWidget(header, QAccessible::ToolBar)
 { }
 
 void AccessibleDockBar::install()

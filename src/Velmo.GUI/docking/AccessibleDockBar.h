@@ -4,7 +4,7 @@
 
 class oVIXDockBar;
 
-/// A panel's header, as assistive tools see it: a title bar with the title of its panel. Search field and buttons may
+/// A panel's header, as assistive tools see it: a tool bar with the title of its panel. Search field and buttons may
 /// wait for a pointer that such tools do not have, so the header has an action for each of them, by its name.
 class AccessibleDockBar : public QAccessibleWidget
 {
