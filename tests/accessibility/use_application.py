@@ -149,6 +149,12 @@ class Editor(Application):
         wait("the mode", lambda: trails.has("CHECKED"))
         self.window.find("canvas").press()
 
+        library = self.window.find("frame", "Library: Kinds")
+        library.find("push button", "Detach or dock").press()
+        floating = self.app.find("frame", "Library: Kinds")
+        wait("the header", lambda: [part for part in floating.shown() if "Close" in part.actions])
+        floating.find("push button", "Detach or dock").press()
+
         kinds = self.window.find("list", "Library")
         kinds.find("list item").press()
         wait("the kind", lambda: any(kind.has("SELECTED") for kind in kinds.children))
