@@ -49,7 +49,7 @@ void emptyAndReading(benchmark::State &state)
 
 } // namespace
 
-BENCHMARK(limited<workstation, 1000>)
+BENCHMARK(limited<workstation, 500>)
     ->Name("application_start/ours")
     ->Iterations(3)
     ->Unit(benchmark::kMillisecond)
