@@ -103,8 +103,11 @@ void SceneView::paintEvent(QPaintEvent *)
 void SceneView::wheelEvent(QWheelEvent *event)
 {
     event->accept();
-    if (zoomAt(event->position(), event->angleDelta().y() / 120.0) && event->buttons() == Qt::NoButton)
+    if (!setZoomAt(event->position(), event->angleDelta().y() / 120.0))
+        return;
+    if (event->buttons() == Qt::NoButton)
         showPointer(VelmoCursor::Zoom); // until the pointer moves
+    emit zoomChanged(options().zoom);
 }
 
 void SceneView::focusInEvent(QFocusEvent *event)
@@ -115,25 +118,22 @@ void SceneView::focusInEvent(QFocusEvent *event)
 
 void SceneView::keyPressEvent(QKeyEvent *event)
 {
-    const QPointF middle = QRectF(rect()).center();
     const QPointF way = wayOf(event->key());
-    if (event->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) {
+    const bool zooms = event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus;
+    const bool picks = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool hasModifier = event->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);
+    if (hasModifier || (way.isNull() && !zooms && !picks)) {
         QWidget::keyPressEvent(event);
-    } else if (!way.isNull()) {
-        const QTransform toScene = sceneToView().inverted();
-        m_centre += toScene.map(middle + way * panStep) - toScene.map(middle);
-        update();
-    } else if (event->key() == Qt::Key_Plus) {
-        zoomAt(middle, 1);
-    } else if (event->key() == Qt::Key_Minus) {
-        zoomAt(middle, -1);
-    } else if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        pickInTheMiddle();
-    } else {
-        QWidget::keyPressEvent(event);
+        return;
     }
-    if (event->isAccepted() && !std::exchange(m_showsFocus, true))
-        update();
+    m_showsFocus = true;
+    update();
+    if (picks)
+        pickInTheMiddle();
+    else if (zooms)
+        zoomInTheMiddle(event->key() == Qt::Key_Plus ? 1 : -1);
+    else
+        pan(way * panStep);
 }
 
 void SceneView::mousePressEvent(QMouseEvent *event)
@@ -156,10 +156,8 @@ void SceneView::mouseMoveEvent(QMouseEvent *event)
         return;
     m_isDragging = true;
     showPointer(VelmoCursor::ClosedHand);
-    const QTransform toScene = sceneToView().inverted();
-    m_centre += toScene.map(m_dragged) - toScene.map(event->position());
+    pan(m_dragged - event->position());
     m_dragged = event->position();
-    update();
 }
 
 void SceneView::mouseReleaseEvent(QMouseEvent *event)
@@ -177,7 +175,20 @@ void SceneView::pickInTheMiddle()
     pickAt(QRectF(rect()).center());
 }
 
-bool SceneView::zoomAt(QPointF point, double steps)
+void SceneView::zoomInTheMiddle(int steps)
+{
+    if (setZoomAt(QRectF(rect()).center(), steps))
+        emit zoomChanged(options().zoom);
+}
+
+void SceneView::pan(QPointF way)
+{
+    const QTransform toScene = sceneToView().inverted();
+    m_centre += toScene.map(way) - toScene.map(QPointF());
+    update();
+}
+
+bool SceneView::setZoomAt(QPointF point, double steps)
 {
     const double zoom = std::clamp(options().zoom * std::pow(zoomOfWheelStep, steps), ViewOptions::smallestZoom,
                                    ViewOptions::largestZoom);
@@ -187,7 +198,6 @@ bool SceneView::zoomAt(QPointF point, double steps)
     m_centre = under + (m_centre - under) * options().zoom / zoom;
     m_drawing.setZoom(zoom);
     update();
-    emit zoomChanged(zoom);
     return true;
 }
 

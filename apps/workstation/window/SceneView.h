@@ -54,7 +54,10 @@ private:
     /// From metres to logical pixels.
     QTransform sceneToView() const;
     /// By steps of the wheel; what is at @p point stays there. False when it is as near or far as it can be.
-    bool zoomAt(QPointF point, double steps);
+    bool setZoomAt(QPointF point, double steps);
+    void zoomInTheMiddle(int steps);
+    /// By logical pixels.
+    void pan(QPointF way);
     void paintFocus(QPainter *painter) const;
     void pickAt(QPointF point);
     const SceneMover *moverUnder(QPointF point) const;
