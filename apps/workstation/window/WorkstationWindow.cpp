@@ -304,6 +304,8 @@ void WorkstationWindow::restorePanels()
         return;
     for (oVIXDock *panel : m_editor->panels())
         panel->show();
+    // Panels that come into a window on screen get no more room than they need.
+    resizeDocks({m_editor->library(), m_editor->tags()}, {3 * height() / 7, 4 * height() / 7}, Qt::Vertical);
 }
 
 void WorkstationWindow::saveLayout()
