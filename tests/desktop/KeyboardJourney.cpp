@@ -52,6 +52,7 @@ private slots:
             RealInput::key(u"Down"_s);
         keep(u"scenes"_s);
         QTRY_COMPARE(scenes()->getSelectedScene(), u"Steward briefing"_s);
+        QTRY_VERIFY(!screen()->isReading());
         RealInput::key(u"ctrl+o"_s);
         QTRY_VERIFY(window()->showsScene());
 
