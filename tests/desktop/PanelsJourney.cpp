@@ -27,8 +27,7 @@ private slots:
 
     void floatsAndDocksOnTheOtherSide()
     {
-        press(library(), u"Detach or dock"_s);
-        QTRY_VERIFY(library()->isFloating());
+        detachLibrary();
         keep(u"detached"_s);
         RealInput::drag(titleOf(library()), place.center() + QPoint(-150, -250));
         QTRY_VERIFY(place.contains(library()->geometry()));
@@ -49,8 +48,7 @@ private slots:
 
     void staysAfloatOverARestart()
     {
-        press(library(), u"Detach or dock"_s);
-        QTRY_VERIFY(library()->isFloating());
+        detachLibrary();
         RealInput::drag(titleOf(library()), place.center() + QPoint(-150, -250));
         QTRY_VERIFY(place.contains(library()->geometry()));
         const QRect afloat = library()->geometry();
@@ -103,6 +101,14 @@ private slots:
     }
 
 private:
+    void detachLibrary()
+    {
+        press(library(), u"Detach or dock"_s);
+        QTRY_VERIFY(library()->isFloating());
+        QVERIFY(QTest::qWaitForWindowExposed(library()));
+        QTest::qWait(200); // the window manager's echoes of the placing
+    }
+
     LibraryPanel *library() const { return window()->libraryPanel(); }
     /// A place of the header that takes hold of the panel: not in the search field, nor on a button.
     static QPoint titleOf(oVIXDock *dock)
