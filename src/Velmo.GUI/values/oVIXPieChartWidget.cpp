@@ -201,18 +201,17 @@ void oVIXPieChartWidget::contextMenuEvent(QContextMenuEvent *event)
 void oVIXPieChartWidget::keyPressEvent(QKeyEvent *event)
 {
     const int last = m_model ? m_model->rowCount() - 1 : -1;
-    if (!hasKeyboardFocus(this) || last < 0) {
+    const bool goesBack = event->key() == Qt::Key_Left || event->key() == Qt::Key_Up;
+    const bool goesOn = event->key() == Qt::Key_Right || event->key() == Qt::Key_Down;
+    const bool locks = isPressKey(this, event);
+    if (!hasKeyboardFocus(this) || last < 0 || (!goesBack && !goesOn && !locks)) {
         QWidget::keyPressEvent(event);
-    } else if (isPressKey(this, event)) {
-        if (m_current.isValid() && !event->isAutoRepeat())
-            lockSlice(m_currentIndex, !PieModel::isLocked(m_model, m_currentIndex));
-    } else if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Up) {
-        onSelectionChanged(std::max(m_currentIndex - 1, 0));
-    } else if (event->key() == Qt::Key_Right || event->key() == Qt::Key_Down) {
-        onSelectionChanged(std::min(m_currentIndex + 1, last));
-    } else {
-        QWidget::keyPressEvent(event);
+        return;
     }
+    if (!locks)
+        onSelectionChanged(goesBack ? std::max(m_currentIndex - 1, 0) : std::min(m_currentIndex + 1, last));
+    else if (m_current.isValid() && !event->isAutoRepeat())
+        lockSlice(m_currentIndex, !PieModel::isLocked(m_model, m_currentIndex));
 }
 
 bool oVIXPieChartWidget::eventFilter(QObject *watched, QEvent *event)
